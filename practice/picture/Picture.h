@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Path.h"
+#include "platform/Result.h"
+
+#include <QImage>
+
+namespace tavrik::practice {
+
+enum class Appearance { light, dark };
+
+struct PictureOptions {
+    double scale = 1; ///< pixels per point: 1 or 2
+    Appearance appearance = Appearance::light;
+};
+
+/// What a person would see: every page of Launchpad, every folder opened, and the Dock, in one picture, drawn
+/// from the volume's stores alone (database, preferences, bookmarks, bundles, custom icons, titles). Works on
+/// stores copied from a real Mac; what cannot be resolved is a question mark. An error, in a sentence, when a
+/// store cannot be read at all. Needs the application object of Qt Gui, for fonts. Writes nothing: the database
+/// is opened read-only.
+Result<QImage> drawPicture(const HostPath& root, const PictureOptions& options = {});
+
+} // namespace tavrik::practice

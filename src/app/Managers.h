@@ -1,0 +1,31 @@
+#pragma once
+
+#include "model/SettingsManager.h"
+#include "model/UnsupportedAppsManager.h"
+#include "model/catalogue/AppManager.h"
+#include "system/DatabaseManager.h"
+#include "system/DockManager.h"
+#include "system/IconManager.h"
+#include "system/LaunchpadManager.h"
+#include "wrappers/IconSettingsManager.h"
+#include "wrappers/TavrikAppManager.h"
+
+namespace tavrik {
+
+/// Every manager, built once in this order and destroyed in reverse. Each gets what it needs by reference, so
+/// that a test builds the whole program on a volume of its own, and two can live side by side.
+struct Managers {
+    explicit Managers(Mac& mac);
+
+    SettingsManager settings;
+    UnsupportedAppsManager unsupported;
+    IconManager icons;
+    DatabaseManager launchpadDatabase;
+    DockManager dock;
+    LaunchpadManager launchpad;
+    IconSettingsManager iconSettings;
+    TavrikAppManager wrappers;
+    AppManager apps;
+};
+
+} // namespace tavrik

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Bytes.h"
+#include "platform/Result.h"
+
+#include <QImage>
+
+#include <cstddef>
+#include <string_view>
+
+namespace tavrik {
+
+/// Largest picture that is taken in: pixels a side, and bytes of the decoded picture.
+inline constexpr int kLargestPictureSide = 16'384;
+inline constexpr std::size_t kLargestPictureBytes = 512u << 20;
+
+/// Reads a picture that a person hands over: PNG, JPEG, TIFF, WebP, GIF or BMP (the first frame), SVG at full
+/// size, ICNS at its largest representation. The orientation recorded in the file is honoured, colours are
+/// converted to sRGB, transparency is kept. Anything else, and anything damaged, cut short or too large, is an
+/// error in a sentence that says what was wrong and what would work. `name` is what the person called the file.
+/// Pure; any thread.
+Result<QImage> readPicture(ByteView data, std::string_view name);
+
+} // namespace tavrik

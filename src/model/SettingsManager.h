@@ -1,0 +1,109 @@
+#pragma once
+
+#include "model/SettingsRecords.h"
+#include "platform/Path.h"
+#include "platform/PropertyList.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tavrik {
+
+class Clock;
+class FileManager;
+struct Mac;
+
+/// The identifier that names the support folder when the program runs without a bundle.
+inline constexpr std::string_view kFallbackBundleIdentifier = "com.tavrik.Tavrik";
+
+/// Owner of "AppSettings.plist" and of every key in it; the other modules read and write through its typed
+/// operations only.
+///
+/// Every setter reads the whole file, changes one entry, keeps all others untouched, and writes the whole file
+/// through a temporary, a flush and an atomic replace, after the previous content went to "AppSettings.backup".
+/// No operation reports an error: failures are logged, and the file then holds what it held before. Getters are
+/// served from memory after the first read. Any thread; a setter blocks on the disk, and setters take turns.
+///
+/// A kill at any moment leaves "AppSettings.plist" old or new, never cut; it may leave "AppSettings.tmp", which
+/// the next save replaces.
+class SettingsManager {
+public:
+    explicit SettingsManager(Mac& mac);
+
+    const MacPath& appSupportURL() const { return m_appSupportURL; }
+
+    const MacPath& iconCacheURL() const { return m_iconCacheURL; }
+
+    plist::Dictionary loadSettings();
+    void saveSettings(const plist::Dictionary& settings);
+    void preloadSettings();
+    void dropCache();
+    void removeEntry(std::string_view subkey, std::string_view key);
+
+    void saveMapping(const std::string& bundleID, RowID originalRowID, RowID tavrikRowID);
+    std::optional<TavrikMapping> getMapping(const std::string& bundleID);
+    std::map<std::string, TavrikMapping> getAllMappings();
+    void removeMapping(const std::string& bundleID);
+
+    /// Nothing removes the application's entry.
+    void setSelectedIcon(const std::string& bundleID, std::optional<std::int64_t> index);
+    std::optional<std::int64_t> getSelectedIcon(const std::string& bundleID);
+
+    /// `appliedDate` is set to now. Nothing removes the key.
+    void setCurrentFontState(const std::optional<FontState>& state);
+    std::optional<FontState> getCurrentFontState();
+
+    /// A merge: what is not given keeps its stored value. `lastGoodFont` counts only together with `lastGood`.
+    void saveFolderBackup(RowID folderID, const std::optional<std::string>& original,
+                          const std::optional<std::string>& lastGood,
+                          const std::optional<std::string>& lastGoodFont);
+    std::optional<FolderBackup> getFolderBackup(RowID folderID);
+    std::map<RowID, FolderBackup> getAllFolderBackups();
+    void removeFolderBackup(RowID folderID);
+
+    void saveDockBookmark(const DockBookmark& bookmark);
+    std::optional<DockBookmark> getDockBookmark(const std::string& bundleID);
+    void removeDockBookmark(const std::string& bundleID);
+
+    void setIconShape(const std::string& key, const plist::Value& result);
+    std::optional<plist::Value> getIconShape(const std::string& key);
+    void clearIconShapeCache();
+
+    void saveHiddenFlagApp(const std::string& bundleID, std::int64_t originalFlags, RowID originalRowID,
+                           std::optional<RowID> tavrikRowID, bool wasHiddenFlag);
+    /// The same for many in one write of the file; nothing is written when there are none. `lastSeenDate` of
+    /// the records is not read.
+    void saveHiddenFlagApps(const std::map<std::string, HiddenFlagApp>& apps);
+    std::optional<HiddenFlagApp> getHiddenFlagApp(const std::string& bundleID);
+    std::map<std::string, HiddenFlagApp> getAllHiddenFlagApps();
+
+    void setBackupRetentionCount(std::int64_t count);
+    std::int64_t getBackupRetentionCount();
+
+    /// Returns true when the record is on disk.
+    [[nodiscard]] bool saveSwapRecord(const std::string& bundleID, const SwapRecord& record);
+    std::optional<SwapRecord> getSwapRecord(const std::string& bundleID);
+    std::map<std::string, SwapRecord> getAllSwapRecords();
+    void removeSwapRecord(const std::string& bundleID);
+
+private:
+    using Snapshot = std::shared_ptr<const plist::Dictionary>;
+
+    Snapshot settings();
+    void change(std::string_view key, const std::function<void(plist::Dictionary&)>& edit);
+
+    FileManager& m_files;
+    Clock& m_clock;
+    MacPath m_appSupportURL;
+    MacPath m_iconCacheURL;
+    Snapshot m_settingsCache;
+    std::mutex m_settingsCacheLock;
+    std::mutex m_writeTurn;
+};
+
+} // namespace tavrik

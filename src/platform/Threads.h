@@ -1,0 +1,25 @@
+#pragma once
+
+namespace tavrik {
+
+/// Names the calling thread as the main thread. Called once, by whoever builds the program; without it no
+/// thread is.
+void declareMainThread();
+
+bool isMainThread();
+
+/// Ends the process, in every build, when the calling thread is the main one: `what` sleeps, waits for a child
+/// or opens the Launchpad database, and would freeze the window.
+void assertOffMainThread(const char* what);
+
+/// Lets the main thread block for as long as it lives: start-up maintenance, which runs before there is a
+/// window to freeze.
+class MainThreadMayBlock {
+public:
+    MainThreadMayBlock();
+    ~MainThreadMayBlock();
+    MainThreadMayBlock(const MainThreadMayBlock&) = delete;
+    MainThreadMayBlock& operator=(const MainThreadMayBlock&) = delete;
+};
+
+} // namespace tavrik
