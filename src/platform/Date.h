@@ -20,6 +20,7 @@ Date dateFromUnix(double seconds);
 double toUnix(Date date);
 
 /// "2026-03-01T12:34:56Z", whole seconds, rounded down.
+/// Moments outside the years 1 to 9999 are shown as the nearest one inside.
 std::string isoText(Date date);
 
 } // namespace tavrik

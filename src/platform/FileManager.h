@@ -66,7 +66,8 @@ public:
     virtual Status move(const MacPath& from, const MacPath& to) = 0;
 
     /// Puts `replacement` in the place of `original` in one step and flushes the folder: at any moment a reader
-    /// finds the old or the new content. `original` may be missing. On failure both stay as they were.
+    /// finds the old or the new content. `original` may be missing. On failure both stay as they were, unless
+    /// the flush alone fails: the new content is in place then, but may not outlive a power cut.
     virtual Status replace(const MacPath& original, const MacPath& replacement) = 0;
 
     /// Removes a file, a link itself, or a folder with everything in it; never follows a link. A failure in the

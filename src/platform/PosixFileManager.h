@@ -2,13 +2,21 @@
 
 #include "platform/FileManager.h"
 
+#include <system_error>
+
 namespace tavrik {
 
 /// The file manager over POSIX calls, for a Mac whose "/" is a folder of the host: "/" itself on a real Mac,
 /// the volume's folder on a practice Mac. Links, absolute ones too, are followed inside that folder and never
 /// lead out of it.
+///
+/// A copy grows beside its target under the target's name with `kUnfinishedCopy` at the end, and takes the
+/// target's name when it is complete; a kill may leave it there, and the next copy to the same target removes
+/// it. Copied files are 0600, or 0700 where the owner may run them, and keep their modification date.
 class PosixFileManager : public FileManager {
 public:
+    static constexpr const char* kUnfinishedCopy = ".tavrik-copy";
+
     explicit PosixFileManager(HostPath root);
 
     bool exists(const MacPath& path) const override;
@@ -33,7 +41,17 @@ public:
     Result<HostPath> hostPath(const MacPath& path, Links links) const;
 
 private:
+    static Error failure(const MacPath& path, std::error_code reason);
+    static Error failure(const MacPath& path, std::errc reason);
+
     Result<MacPath> resolve(const MacPath& path, Links links) const;
+
+    /// The path for a call to the system. On the host's own root the links are left to the system.
+    Result<std::string> locate(const MacPath& path, Links links) const;
+
+    /// The same for an entry that is to be made, moved or removed by its own name: "/", "." and ".." at the end
+    /// are refused, since they would name a folder above.
+    Result<std::string> locateEntry(const MacPath& path) const;
 
     HostPath m_root;
 };

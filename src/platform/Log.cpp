@@ -1,0 +1,58 @@
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace tavrik {
+
+namespace {
+
+/// The one stream of the process. The lock is held while a line goes out, so that lines never interleave and no
+/// listener is called once it is gone.
+struct LogStream {
+    std::mutex mutex;
+    std::FILE* stream = stdout;
+    std::vector<const LogListener*> listeners;
+};
+
+/// Made by the first user and never ended, since lines may come while the program winds up.
+LogStream& logStream() {
+    static LogStream& stream = *new LogStream;
+    return stream;
+}
+
+} // namespace
+
+void log(std::string_view line) {
+    LogStream& to = logStream();
+    const std::lock_guard lock(to.mutex);
+    if (to.stream) {
+        std::fwrite(line.data(), 1, line.size(), to.stream);
+        std::fputc('\n', to.stream);
+        std::fflush(to.stream);
+    }
+    for (const LogListener* listener : to.listeners)
+        listener->m_heard(line);
+}
+
+void setLogStream(std::FILE* stream) {
+    LogStream& to = logStream();
+    const std::lock_guard lock(to.mutex);
+    to.stream = stream;
+}
+
+LogListener::LogListener(std::function<void(std::string_view)> heard) : m_heard(std::move(heard)) {
+    LogStream& to = logStream();
+    const std::lock_guard lock(to.mutex);
+    to.listeners.push_back(this);
+}
+
+LogListener::~LogListener() {
+    LogStream& to = logStream();
+    const std::lock_guard lock(to.mutex);
+    std::erase(to.listeners, this);
+}
+
+} // namespace tavrik

@@ -1,0 +1,40 @@
+#include "platform/Threads.h"
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+
+namespace tavrik {
+
+namespace {
+
+std::atomic<std::thread::id> mainThread;
+thread_local int permissionsToBlock = 0;
+
+} // namespace
+
+void declareMainThread() {
+    mainThread = std::this_thread::get_id();
+}
+
+bool isMainThread() {
+    return mainThread.load() == std::this_thread::get_id();
+}
+
+void assertOffMainThread(const char* what) {
+    if (!isMainThread() || permissionsToBlock > 0)
+        return;
+    std::fprintf(stderr, "%s must not run on the main thread: it blocks\n", what);
+    std::abort();
+}
+
+MainThreadMayBlock::MainThreadMayBlock() {
+    ++permissionsToBlock;
+}
+
+MainThreadMayBlock::~MainThreadMayBlock() {
+    --permissionsToBlock;
+}
+
+} // namespace tavrik
