@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/SettingsFile.h"
 #include "model/SettingsRecords.h"
 #include "platform/Path.h"
 #include "platform/PropertyList.h"
@@ -11,11 +12,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tavrik {
 
 class Clock;
-class FileManager;
 struct Mac;
 
 /// The identifier that names the support folder when the program runs without a bundle.
@@ -39,10 +41,14 @@ public:
 
     const MacPath& iconCacheURL() const { return m_iconCacheURL; }
 
+    /// From the disk, the cache left alone. An empty dictionary at worst.
     plist::Dictionary loadSettings();
+    /// Writes the whole and drops the cache. An empty dictionary is refused.
     void saveSettings(const plist::Dictionary& settings);
+    /// Fills the cache unless it is filled, so that the next getter does not touch the disk.
     void preloadSettings();
     void dropCache();
+    /// Takes an entry out of the dictionary at `key`; fine when it is not there.
     void removeEntry(std::string_view subkey, std::string_view key);
 
     void saveMapping(const std::string& bundleID, RowID originalRowID, RowID tavrikRowID);
@@ -71,14 +77,16 @@ public:
     void removeDockBookmark(const std::string& bundleID);
 
     void setIconShape(const std::string& key, const plist::Value& result);
+    /// The same for many in one write of the file; nothing is written when there are none.
+    void setIconShapes(const std::map<std::string, plist::Value>& results);
     std::optional<plist::Value> getIconShape(const std::string& key);
     void clearIconShapeCache();
 
     void saveHiddenFlagApp(const std::string& bundleID, std::int64_t originalFlags, RowID originalRowID,
                            std::optional<RowID> tavrikRowID, bool wasHiddenFlag);
-    /// The same for many in one write of the file; nothing is written when there are none. `lastSeenDate` of
-    /// the records is not read.
-    void saveHiddenFlagApps(const std::map<std::string, HiddenFlagApp>& apps);
+    /// The same for many, each with its line in the order given, in one write of the file; nothing is written
+    /// when there are none. `lastSeenDate` of the records is not read.
+    void saveHiddenFlagApps(const std::vector<std::pair<std::string, HiddenFlagApp>>& apps);
     std::optional<HiddenFlagApp> getHiddenFlagApp(const std::string& bundleID);
     std::map<std::string, HiddenFlagApp> getAllHiddenFlagApps();
 
@@ -93,17 +101,28 @@ public:
 
 private:
     using Snapshot = std::shared_ptr<const plist::Dictionary>;
+    using Edit = std::function<void(plist::Dictionary&)>;
 
     Snapshot settings();
-    void change(std::string_view key, const std::function<void(plist::Dictionary&)>& edit);
+    SettingsFile::Saved changeRoot(const Edit& edit);
+    SettingsFile::Saved changeEntries(std::string_view key, const Edit& edit);
 
-    FileManager& m_files;
+    template<typename Record>
+    std::optional<Record> entry(std::string_view key, std::string_view subkey);
+    template<typename Record>
+    std::map<std::string, Record> entries(std::string_view key);
+
     Clock& m_clock;
     MacPath m_appSupportURL;
     MacPath m_iconCacheURL;
-    Snapshot m_settingsCache;
-    std::mutex m_settingsCacheLock;
+
+    /// Held from reading the file to having written it, so that of two setters none loses the other's change.
+    /// May be taken while the cache's lock is held, never the other way round.
     std::mutex m_writeTurn;
+    SettingsFile m_file;
+
+    std::mutex m_settingsCacheLock;
+    Snapshot m_settingsCache; ///< null when not loaded
 };
 
 } // namespace tavrik

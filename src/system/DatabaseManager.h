@@ -57,10 +57,21 @@ public:
     std::optional<MacPath> originalAppPath(const MacPath& forWrapperPath) const;
 
 private:
+    /// A listed row of a platform application that carries the hidden flag.
+    struct HiddenRow {
+        std::string bundleID;
+        std::int32_t flags;
+        RowID rowID;
+    };
+
+    ApplicationInfo describe(std::string title, std::string bundleID, const MacPath& path) const;
+    void recordHiddenApps(const std::vector<HiddenRow>& rows);
+
     Mac& m_mac;
     SettingsManager& m_settings;
     IconManager& m_icons;
     const UnsupportedAppsManager& m_unsupported;
+    const MacPath m_home;
 };
 
 } // namespace tavrik

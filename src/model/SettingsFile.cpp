@@ -1,0 +1,113 @@
+#include "model/SettingsFile.h"
+
+#include "platform/AtomicFile.h"
+#include "platform/FileManager.h"
+#include "platform/Log.h"
+
+#include <cerrno>
+
+namespace tavrik {
+
+namespace {
+
+/// An empty settings file cannot be told from a lost one, so it counts as bad.
+std::optional<plist::Dictionary> settingsIn(ByteView data) {
+    auto root = plist::parse(data);
+    if (!root)
+        return std::nullopt;
+    auto* dictionary = root->as<plist::Dictionary>();
+    if (!dictionary || dictionary->empty())
+        return std::nullopt;
+    return std::move(*dictionary);
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(FileManager& files, const MacPath& folder)
+    : m_files(files),
+      m_main(folder / "AppSettings.plist"),
+      m_backup(folder / "AppSettings.backup"),
+      m_temporary(folder / "AppSettings.tmp") {}
+
+std::optional<plist::Dictionary> SettingsFile::read() const {
+    const auto data = m_files.read(m_main);
+    return data ? settingsIn(*data) : std::nullopt;
+}
+
+plist::Dictionary SettingsFile::load() {
+    m_mainUnreadable.reset();
+    m_backupIsTheGoodOne = false;
+    const auto data = m_files.read(m_main);
+    if (data) {
+        if (auto settings = settingsIn(*data))
+            return std::move(*settings);
+    } else if (data.error().code != ENOENT) {
+        m_mainUnreadable = data.error();
+    }
+
+    log("WARNING: Main settings file failed to load, trying backup");
+    const auto backup = m_files.read(m_backup);
+    if (backup) {
+        if (auto settings = settingsIn(*backup)) {
+            if (!m_mainUnreadable)
+                m_backupIsTheGoodOne = !writeAtomically(m_files, m_main, *backup);
+            log("Restored settings from backup");
+            return std::move(*settings);
+        }
+    }
+    log("WARNING: No valid settings found, returning empty");
+    return {};
+}
+
+SettingsFile::Saved SettingsFile::save(const plist::Dictionary& settings) {
+    if (settings.empty()) {
+        log("WARNING: Attempting to save empty settings - aborting to prevent data loss");
+        return Saved::no;
+    }
+    if (m_mainUnreadable) {
+        log("Failed to save settings: " + m_mainUnreadable->description);
+        return Saved::no;
+    }
+
+    const bool backupIsCurrent = refreshBackup();
+    const auto saved = replaceWith(settings);
+    if (saved) {
+        m_backupIsTheGoodOne = false;
+        return *saved;
+    }
+
+    log("Failed to save settings: " + saved.error().description);
+    if (backupIsCurrent && m_files.exists(m_backup)) {
+        if (const auto backup = m_files.read(m_backup))
+            ignoreFailure(writeAtomically(m_files, m_main, *backup));
+        log("Restored settings from backup");
+    }
+    ignoreFailure(m_files.remove(m_temporary));
+    return Saved::no;
+}
+
+/// True when the backup may stand in for the main file: it was copied from it just now, or the main file is
+/// missing or known to be bad. A backup of an earlier generation, left because it could not be deleted, may
+/// not.
+bool SettingsFile::refreshBackup() {
+    if (m_backupIsTheGoodOne || !m_files.exists(m_main))
+        return true;
+    ignoreFailure(m_files.remove(m_backup));
+    return static_cast<bool>(m_files.copy(m_main, m_backup));
+}
+
+Result<SettingsFile::Saved> SettingsFile::replaceWith(const plist::Dictionary& settings) {
+    const auto data = plist::serialize(plist::Value(settings), plist::Format::xml);
+    if (!data)
+        return data.error();
+    // One left by a kill; removing it, rather than writing over it, also never follows a link.
+    ignoreFailure(m_files.remove(m_temporary));
+    if (const auto created = m_files.create(m_temporary, *data); !created)
+        return created.error();
+    const bool flushed = static_cast<bool>(m_files.flush(m_temporary));
+    if (const auto replaced = m_files.replace(m_main, m_temporary); !replaced)
+        return replaced.error();
+    return flushed ? Saved::yes : Saved::unflushed;
+}
+
+} // namespace tavrik

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Path.h"
+#include "platform/PropertyList.h"
+#include "platform/Result.h"
+
+#include <optional>
+
+namespace tavrik {
+
+class FileManager;
+
+/// The settings on disk: "AppSettings.plist", its one-generation copy "AppSettings.backup" and the transient
+/// "AppSettings.tmp", all in one folder. Failures are logged here, whole, and go no further than an empty or
+/// false answer. Blocks on the disk. Not locked: only `read` may run beside another operation, since the file
+/// is only ever replaced in one step.
+class SettingsFile {
+public:
+    SettingsFile(FileManager& files, const MacPath& folder);
+
+    /// What the main file holds; nothing when it is missing, unreadable, damaged or empty. Changes and logs
+    /// nothing.
+    std::optional<plist::Dictionary> read() const;
+
+    /// The same with its fallback: the backup, which is then put in the place of a missing or damaged main
+    /// file; at worst an empty dictionary. Damaged files stay on disk for inspection.
+    ///
+    /// A main file that is there and cannot be read (the disk fails, no descriptors are left) may well be good:
+    /// it is left alone, and saving is refused until it loads again.
+    plist::Dictionary load();
+
+    enum class Saved {
+        no,        ///< the main file holds what it held before
+        unflushed, ///< the new content stands, but the system did not confirm that it is on stable storage
+        yes,
+    };
+
+    /// Writes the whole dictionary: backup copy, temporary file, flush, replacement in one step. An empty
+    /// dictionary is refused. A failure leaves no temporary file; a kill leaves the main file old or new.
+    Saved save(const plist::Dictionary& settings);
+
+private:
+    bool refreshBackup();
+    Result<Saved> replaceWith(const plist::Dictionary& settings);
+
+    FileManager& m_files;
+    const MacPath m_main;
+    const MacPath m_backup;
+    const MacPath m_temporary;
+    std::optional<Error> m_mainUnreadable; ///< why the last load could not read a main file that is there
+    bool m_backupIsTheGoodOne = false;     ///< the last load found the main file bad, and it still is
+};
+
+} // namespace tavrik

@@ -1,0 +1,127 @@
+#include "system/IconManager.h"
+
+#include "platform/FileManager.h"
+#include "platform/Icns.h"
+#include "platform/Log.h"
+#include "platform/Mac.h"
+#include "platform/PathComponent.h"
+#include "platform/PropertyList.h"
+#include "platform/Workspace.h"
+
+#include <QColorSpace>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tavrik {
+
+namespace {
+
+constexpr int kSquareSide = 1024; ///< pixels
+constexpr std::size_t kLargestInfoPlist = 16u << 20;
+constexpr std::size_t kLargestIconFile = 64u << 20;
+
+/// The icon file that the bundle's information dictionary names, without ".icns"; empty when there is none. The
+/// dictionary is the application's, so the name is not trusted as a path.
+std::string namedIconFile(const FileManager& files, const MacPath& bundle) {
+    for (const char* place : {"Contents/Info.plist", "WrappedBundle/Info.plist", "Info.plist"}) {
+        const auto data = files.read(bundle / place, kLargestInfoPlist);
+        if (!data)
+            continue;
+        const auto info = plist::parse(*data);
+        const auto* value = info ? info->find<std::string>("CFBundleIconFile") : nullptr;
+        if (!value)
+            return {};
+        std::string_view name = *value;
+        if (name.ends_with(".icns"))
+            name.remove_suffix(5);
+        return isSafePathComponent(name) ? std::string(name) : std::string();
+    }
+    return {};
+}
+
+/// An icon file at its largest representation, the first of equals. Null when it does not load.
+QImage loadIconFile(ByteView data) {
+    const auto representations = icns::representations(data);
+    // Some applications ship a plain picture under the name of an icon file.
+    if (representations.empty())
+        return QImage::fromData(data.data(), static_cast<int>(data.size()));
+    const auto largest =
+        std::max_element(representations.begin(), representations.end(),
+                         [](const auto& left, const auto& right) { return left.width < right.width; });
+    return icns::decode(data, *largest);
+}
+
+/// Where a picture of this size is drawn: fitted, centred, an odd remainder to the right and the bottom.
+QRect fittedRect(QSize size) {
+    if (size.isEmpty())
+        return {0, 0, kSquareSide, kSquareSide};
+    const double scale = std::min(double{kSquareSide} / size.width(), double{kSquareSide} / size.height());
+    const auto fitted = [scale](int length) {
+        return std::clamp(static_cast<int>(std::lround(length * scale)), 1, kSquareSide);
+    };
+    const int width = fitted(size.width());
+    const int height = fitted(size.height());
+    return {(kSquareSide - width) / 2, (kSquareSide - height) / 2, width, height};
+}
+
+bool isSRGB(const QImage& image) {
+    const QColorSpace space = image.colorSpace();
+    return !space.isValid() || space == QColorSpace(QColorSpace::SRgb);
+}
+
+} // namespace
+
+IconManager::IconManager(Mac& mac) : m_mac(mac) {}
+
+QImage IconManager::appIcon(const MacPath& atPath) const {
+    const std::array<std::string, 4> names{namedIconFile(m_mac.files, atPath), "icon", "Icon", "app"};
+    for (const std::string& name : names) {
+        if (name.empty())
+            continue;
+        for (const char* place : {"Contents/Resources", "WrappedBundle", ""}) {
+            const auto data = m_mac.files.read(atPath / place / (name + ".icns"), kLargestIconFile);
+            if (!data)
+                continue;
+            QImage image = loadIconFile(*data);
+            if (!image.isNull())
+                return image;
+            break;
+        }
+    }
+    return m_mac.workspace.icon(atPath);
+}
+
+std::optional<QImage> IconManager::squareIcon(const QImage& from) {
+    constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
+    if (from.size() == QSize(kSquareSide, kSquareSide) && from.format() == kFormat && isSRGB(from))
+        return from;
+
+    QImage square(kSquareSide, kSquareSide, kFormat);
+    if (square.isNull()) {
+        log("Failed to create bitmap for icon conversion");
+        return std::nullopt;
+    }
+    square.setColorSpace(QColorSpace::SRgb);
+    square.fill(Qt::transparent);
+    if (from.isNull())
+        return square;
+
+    // Scaled premultiplied, so that the colour of transparent pixels does not bleed into the edges.
+    const QRect rect = fittedRect(from.size());
+    QImage scaled =
+        from.convertToFormat(kFormat).scaled(rect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (scaled.isNull()) {
+        log("Failed to create bitmap for icon conversion");
+        return std::nullopt;
+    }
+    if (!isSRGB(scaled))
+        scaled.convertToColorSpace(QColorSpace::SRgb);
+    for (int y = 0; y < rect.height(); ++y)
+        std::copy_n(reinterpret_cast<const QRgb*>(scaled.constScanLine(y)), rect.width(),
+                    reinterpret_cast<QRgb*>(square.scanLine(rect.top() + y)) + rect.left());
+    return square;
+}
+
+} // namespace tavrik
