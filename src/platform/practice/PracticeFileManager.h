@@ -6,7 +6,9 @@ namespace tavrik::practice {
 
 /// Files of a practice Mac. Companions ("._name") are kept in step as the Mac's own kernel does on a foreign
 /// volume: a listing leaves out those whose partner exists, and removing, moving, replacing or copying a file
-/// takes its companion along.
+/// takes its companion along. A companion that nothing is left of at the new place is overwritten there. When
+/// only the companion's part of a replacement fails, the replacement counts as done; a kill between the two
+/// parts of a move or a replacement leaves the file without its Finder info and custom icon.
 class PracticeFileManager : public PosixFileManager {
 public:
     explicit PracticeFileManager(HostPath root);
@@ -16,6 +18,11 @@ public:
     Status move(const MacPath& from, const MacPath& to) override;
     Status replace(const MacPath& original, const MacPath& replacement) override;
     Status remove(const MacPath& path) override;
+
+private:
+    Status dropCompanion(const MacPath& path);
+    Status takeCompanion(const MacPath& from, const MacPath& to);
+    Status undoCopy(const MacPath& copy, const Status& reason);
 };
 
 } // namespace tavrik::practice
