@@ -33,7 +33,12 @@ public:
     using Content = std::variant<Dictionary, Array, std::string, Bytes, Date, bool, std::int64_t, std::uint64_t,
                                  double, UID>;
 
-    Value() = default; ///< an empty dictionary
+    Value(); ///< an empty dictionary
+    Value(const Value&);
+    Value(Value&&) noexcept;
+    Value& operator=(const Value&);
+    Value& operator=(Value&&) noexcept;
+    ~Value();
 
     Value(Dictionary value) : m_content(std::move(value)) {}
 
@@ -96,20 +101,25 @@ private:
 enum class Format { xml, binary };
 
 /// What a reader accepts. Depth counts containers within containers, the root being 1. Values count every node,
-/// a node that a binary list refers to twice counting twice, so that a small file cannot unfold into a huge
-/// one.
+/// keys aside, and a node that a binary list refers to twice counts twice, its bytes too, so that a small file
+/// cannot unfold into a huge one.
 struct Limits {
     std::size_t bytes = 256u << 20;
     std::size_t depth = 128;
     std::size_t values = 4'000'000;
 };
 
-/// Reads XML or binary, told apart by content. Damaged, cut short, too deep or too large input is an error,
-/// never a crash.
+/// Reads XML or binary, told apart by content; the old ASCII form is an error. Damaged, cut short, too deep or
+/// too large input is an error, never a crash. So is what would not survive being written back: text that holds
+/// NUL or is not Unicode, integers that fit neither 64-bit type, sets and nulls. Numbers and dates that are
+/// misspelt in XML are read as far as they go.
 Result<Value> parse(ByteView data, const Limits& limits = {});
 
-/// Fails only on what the format cannot hold: text that is not UTF-8, or control characters in XML, and depth
-/// above the limit.
+/// Equal values give equal bytes. Binary keeps everything. XML keeps every bit of a real and carriage returns,
+/// cuts dates to whole seconds, and gives a UID back only as such when it is read here or by the Mac, where the
+/// dictionary of one integer "CF$UID" means one. Fails on what the format cannot hold: text that is not UTF-8
+/// or holds NUL, control characters and years outside 1 to 9999 in XML, UIDs above 32 bits, and depth, values
+/// or bytes above the limits.
 Result<Bytes> serialize(const Value& value, Format format, const Limits& limits = {});
 
 } // namespace tavrik::plist

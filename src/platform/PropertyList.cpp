@@ -1,0 +1,335 @@
+#include "platform/PropertyList.h"
+
+#include "platform/PropertyListGuard.h"
+#include "platform/PropertyListXML.h"
+#include "platform/Utf8.h"
+
+#include <locale.h>
+#include <plist/plist.h>
+
+#include <algorithm>
+#include <bit>
+#include <clocale>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <utility>
+#if __has_include(<xlocale.h>)
+#include <xlocale.h>
+#endif
+
+namespace tavrik::plist {
+
+namespace {
+
+constexpr std::string_view kBinaryMagic = "bplist00";
+
+struct FreeNode {
+    void operator()(plist_t node) const { plist_free(node); }
+};
+
+using Node = std::unique_ptr<void, FreeNode>;
+
+struct FreeMemory {
+    void operator()(void* memory) const { std::free(memory); }
+};
+
+/// libplist reads reals with the thread's decimal point.
+class CLocale {
+public:
+    CLocale() : m_locale(newlocale(LC_NUMERIC_MASK, "C", nullptr)), m_before(uselocale(m_locale)) {}
+
+    ~CLocale() {
+        uselocale(m_before);
+        freelocale(m_locale);
+    }
+
+    CLocale(const CLocale&) = delete;
+    CLocale& operator=(const CLocale&) = delete;
+
+private:
+    locale_t m_locale;
+    locale_t m_before;
+};
+
+void appendBigEndian(Bytes& bytes, std::uint64_t value) {
+    for (int shift = 56; shift >= 0; shift -= 8)
+        bytes.push_back(static_cast<std::uint8_t>(value >> shift));
+}
+
+/// The one object of a binary list with nothing else in it, marker first. It shows what libplist's getters
+/// round or leave out: all bits of a date, and whether an integer is signed.
+Bytes objectBytes(plist_t node) {
+    char* data = nullptr;
+    std::uint32_t size = 0;
+    plist_to_bin(node, &data, &size);
+    const std::unique_ptr<char, FreeMemory> owner(data);
+    constexpr std::size_t rest = 1 + 32; // the offset table and the trailer
+    const auto* begin = reinterpret_cast<const std::uint8_t*>(data);
+    if (size <= kBinaryMagic.size() + rest)
+        return {};
+    return Bytes(begin + kBinaryMagic.size(), begin + size - rest);
+}
+
+/// The way back: a node that libplist's constructors cannot make.
+Node nodeOf(const Bytes& object) {
+    Bytes list(kBinaryMagic.begin(), kBinaryMagic.end());
+    list.insert(list.end(), object.begin(), object.end());
+    const std::uint64_t table = list.size();
+    list.push_back(static_cast<std::uint8_t>(kBinaryMagic.size()));
+    list.insert(list.end(), {0, 0, 0, 0, 0, 0, 1, 1}); // one byte for each offset and reference
+    appendBigEndian(list, 1);
+    appendBigEndian(list, 0);
+    appendBigEndian(list, table);
+    plist_t node = nullptr;
+    plist_from_bin(reinterpret_cast<const char*>(list.data()), static_cast<std::uint32_t>(list.size()), &node);
+    return Node(node);
+}
+
+std::uint64_t lastEightBytes(const Bytes& bytes) {
+    std::uint64_t value = 0;
+    for (std::size_t i = bytes.size() - std::min<std::size_t>(8, bytes.size()); i < bytes.size(); ++i)
+        value = value << 8 | bytes[i];
+    return value;
+}
+
+std::optional<Value> integerOf(plist_t node) {
+    std::uint64_t number = 0;
+    plist_get_uint_val(node, &number);
+    constexpr std::uint8_t eightBytes = 0x13;
+    if (number > std::numeric_limits<std::int64_t>::max() && objectBytes(node).front() == eightBytes)
+        return Value(static_cast<std::int64_t>(number));
+    return Value(number);
+}
+
+std::optional<Value> valueOf(plist_t node, Format format);
+
+std::optional<Value> arrayOf(plist_t node, Format format) {
+    plist_array_iter position = nullptr;
+    plist_array_new_iter(node, &position);
+    const std::unique_ptr<void, FreeMemory> owner(position);
+    Array array;
+    array.reserve(plist_array_get_size(node));
+    while (true) {
+        plist_t item = nullptr;
+        plist_array_next_item(node, position, &item);
+        if (!item)
+            return Value(std::move(array));
+        auto value = valueOf(item, format);
+        if (!value)
+            return std::nullopt;
+        array.push_back(std::move(*value));
+    }
+}
+
+std::optional<Value> dictionaryOf(plist_t node, Format format) {
+    plist_dict_iter position = nullptr;
+    plist_dict_new_iter(node, &position);
+    const std::unique_ptr<void, FreeMemory> owner(position);
+    Dictionary dictionary;
+    while (true) {
+        char* keyText = nullptr;
+        plist_t item = nullptr;
+        plist_dict_next_item(node, position, &keyText, &item);
+        const std::unique_ptr<char, FreeMemory> key(keyText);
+        if (!item)
+            break;
+        if (!key || !isUtf8(key.get()))
+            return std::nullopt;
+        auto value = valueOf(item, format);
+        if (!value)
+            return std::nullopt;
+        dictionary.insert_or_assign(key.get(), std::move(*value));
+    }
+    if (format == Format::xml && dictionary.size() == 1 && dictionary.begin()->first == "CF$UID") {
+        const auto* number = dictionary.begin()->second.as<std::int64_t>();
+        if (number && *number >= 0 && *number <= 0xFFFF'FFFF)
+            return Value(UID{static_cast<std::uint64_t>(*number)});
+    }
+    return Value(std::move(dictionary));
+}
+
+/// The node and all below it; nothing when a text is not UTF-8. The guards have bounded the depth.
+std::optional<Value> valueOf(plist_t node, Format format) {
+    std::uint64_t size = 0;
+    switch (plist_get_node_type(node)) {
+    case PLIST_DICT:
+        return dictionaryOf(node, format);
+    case PLIST_ARRAY:
+        return arrayOf(node, format);
+    case PLIST_STRING: {
+        const char* text = plist_get_string_ptr(node, &size);
+        const std::string_view view(text ? text : "", text ? size : 0);
+        return isUtf8(view) ? std::optional<Value>(view) : std::nullopt;
+    }
+    case PLIST_DATA: {
+        const auto* data = reinterpret_cast<const std::uint8_t*>(plist_get_data_ptr(node, &size));
+        return Value(data ? Bytes(data, data + size) : Bytes());
+    }
+    case PLIST_DATE:
+        return Value(Date{std::bit_cast<double>(lastEightBytes(objectBytes(node)))});
+    case PLIST_BOOLEAN: {
+        std::uint8_t flag = 0;
+        plist_get_bool_val(node, &flag);
+        return Value(flag != 0);
+    }
+    case PLIST_UINT:
+        return integerOf(node);
+    case PLIST_REAL: {
+        double number = 0;
+        plist_get_real_val(node, &number);
+        return Value(number);
+    }
+    case PLIST_UID: {
+        std::uint64_t number = 0;
+        plist_get_uid_val(node, &number);
+        return Value(UID{number});
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+bool isText(std::string_view text) {
+    return isUtf8(text) && text.find('\0') == std::string_view::npos;
+}
+
+/// libplist's node of a value and of all below it; null when the binary format or libplist cannot hold it.
+class NodeMaker {
+public:
+    Node make(const Value& value) const {
+        return std::visit([this](const auto& content) { return nodeFor(content); }, value.content());
+    }
+
+private:
+    Node nodeFor(const Dictionary& dictionary) const {
+        Node node(plist_new_dict());
+        for (const auto& [key, value] : dictionary) {
+            Node item = isText(key) ? make(value) : nullptr;
+            if (!item)
+                return nullptr;
+            plist_dict_set_item(node.get(), key.c_str(), item.release());
+        }
+        return node;
+    }
+
+    Node nodeFor(const Array& array) const {
+        Node node(plist_new_array());
+        for (const Value& value : array) {
+            Node item = make(value);
+            if (!item)
+                return nullptr;
+            plist_array_append_item(node.get(), item.release());
+        }
+        return node;
+    }
+
+    Node nodeFor(const std::string& text) const {
+        return Node(isText(text) ? plist_new_string(text.c_str()) : nullptr);
+    }
+
+    Node nodeFor(const Bytes& bytes) const {
+        return Node(plist_new_data(textOf(bytes).empty() ? "" : textOf(bytes).data(), bytes.size()));
+    }
+
+    Node nodeFor(Date date) const {
+        Bytes object{0x33};
+        appendBigEndian(object, std::bit_cast<std::uint64_t>(date.sinceReference));
+        return nodeOf(object);
+    }
+
+    Node nodeFor(bool flag) const { return Node(plist_new_bool(flag)); }
+
+    Node nodeFor(std::int64_t number) const {
+        if (number >= 0)
+            return Node(plist_new_uint(static_cast<std::uint64_t>(number)));
+        Bytes object{0x13};
+        appendBigEndian(object, static_cast<std::uint64_t>(number));
+        return nodeOf(object);
+    }
+
+    Node nodeFor(std::uint64_t number) const {
+        Bytes object{0x14};
+        appendBigEndian(object, 0);
+        appendBigEndian(object, number);
+        return nodeOf(object);
+    }
+
+    Node nodeFor(double number) const { return Node(plist_new_real(number)); }
+
+    Node nodeFor(UID uid) const {
+        return Node(uid.number <= 0xFFFF'FFFF ? plist_new_uid(uid.number) : nullptr);
+    }
+};
+
+/// Whether the value stays within the depth and the count, which are taken down on the way.
+bool fits(const Value& value, std::size_t depth, std::size_t& values) {
+    if (values == 0)
+        return false;
+    --values;
+    if (const auto* array = value.as<Array>())
+        return depth > 0 &&
+               std::ranges::all_of(*array, [&](const Value& item) { return fits(item, depth - 1, values); });
+    if (const auto* dictionary = value.as<Dictionary>())
+        return depth > 0 && std::ranges::all_of(*dictionary, [&](const auto& entry) {
+                   return fits(entry.second, depth - 1, values);
+               });
+    return true;
+}
+
+} // namespace
+
+Result<Value> parse(ByteView data, const Limits& limits) {
+    // libplist counts bytes in 32 bits.
+    if (data.size() > std::min<std::size_t>(limits.bytes, std::numeric_limits<std::uint32_t>::max()))
+        return Error{"The property list is too large"};
+    const Format format = textOf(data).starts_with(kBinaryMagic) ? Format::binary : Format::xml;
+    if (format == Format::xml && textOf(data).starts_with("\xEF\xBB\xBF"))
+        data = data.subspan(3);
+    const Status checked =
+        format == Format::binary ? checkBinary(data, limits) : checkXML(textOf(data), limits);
+    if (!checked)
+        return checked.error();
+
+    plist_t root = nullptr;
+    const auto size = static_cast<std::uint32_t>(data.size());
+    if (format == Format::binary) {
+        plist_from_bin(textOf(data).data(), size, &root);
+    } else {
+        const CLocale locale;
+        plist_from_xml(textOf(data).data(), size, &root);
+    }
+    const Node node(root);
+    auto value = node ? valueOf(node.get(), format) : std::nullopt;
+    if (!value)
+        return Error{"The property list is damaged"};
+    return std::move(*value);
+}
+
+Result<Bytes> serialize(const Value& value, Format format, const Limits& limits) {
+    std::size_t values = limits.values;
+    if (!fits(value, limits.depth, values))
+        return Error{"The property list is nested too deeply or too large"};
+    if (format == Format::xml) {
+        const Result<std::string> text = toXML(value);
+        if (!text)
+            return text.error();
+        const ByteView bytes = bytesOf(*text);
+        return Bytes(bytes.begin(), bytes.end());
+    }
+
+    const Node node = NodeMaker().make(value);
+    if (!node)
+        return Error{"The property list holds a text that is not UTF-8 or holds NUL, or a UID above 32 bits"};
+    char* data = nullptr;
+    std::uint32_t size = 0;
+    plist_to_bin(node.get(), &data, &size);
+    const std::unique_ptr<char, FreeMemory> owner(data);
+    if (!data)
+        return Error{"The property list could not be written"};
+    const auto* begin = reinterpret_cast<const std::uint8_t*>(data);
+    return Bytes(begin, begin + size);
+}
+
+} // namespace tavrik::plist
