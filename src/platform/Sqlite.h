@@ -97,7 +97,9 @@ private:
     sqlite3_stmt* m_handle = nullptr;
 };
 
-/// Rolls back when it goes, unless committed. `isOpen` tells whether BEGIN took effect.
+/// Rolls back when it goes, unless committed. `isOpen` tells whether BEGIN took effect and SQLite, which ends a
+/// transaction by itself on some failures, still has it open. One that could not begin, for instance inside
+/// another, does nothing.
 class Transaction {
 public:
     /// `begin` is the whole statement: "BEGIN EXCLUSIVE TRANSACTION".
@@ -114,6 +116,7 @@ public:
 
 private:
     Connection& m_connection;
+    const bool m_began;
 };
 
 } // namespace tavrik::sqlite

@@ -1,0 +1,165 @@
+#include "platform/Sqlite.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <filesystem>
+
+namespace tavrik::sqlite {
+
+namespace {
+
+class Sqlite : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = testing::TempDir() + "sqlite-XXXXXX";
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        m_folder = pattern;
+    }
+
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
+
+    Connection openFile() {
+        auto connection = Connection::open(HostPath((m_folder / "db").string()), OpenMode::readWriteCreate);
+        EXPECT_TRUE(connection);
+        return std::move(*connection);
+    }
+
+    static std::int64_t count(Connection& connection) {
+        Statement statement = connection.prepare("SELECT COUNT(*) FROM t");
+        EXPECT_EQ(statement.step(), Step::row);
+        return *statement.int64(0);
+    }
+
+    std::filesystem::path m_folder;
+};
+
+} // namespace
+
+TEST_F(Sqlite, TellsNullFromEveryEmptyValue) {
+    Connection connection = openFile();
+    ASSERT_TRUE(connection.execute("CREATE TABLE t (a, b, c, d, e, f)"));
+    Statement insert = connection.prepare("INSERT INTO t VALUES (?, ?, ?, ?, ?, ?)");
+    ASSERT_TRUE(insert);
+    insert.bind(1, std::string_view());
+    insert.bind(2, ByteView());
+    insert.bind(3, std::int64_t{1} << 40);
+    insert.bind(4, std::optional<std::int32_t>());
+    insert.bind(5, std::optional<std::int32_t>(-7));
+    insert.bind(6, std::string_view("a\0b", 3));
+    EXPECT_EQ(insert.step(), Step::done);
+
+    Statement select = connection.prepare("SELECT * FROM t");
+    ASSERT_EQ(select.step(), Step::row);
+    EXPECT_EQ(select.text(0), "");
+    EXPECT_EQ(select.blob(1), Bytes());
+    EXPECT_EQ(select.int64(2), std::int64_t{1} << 40);
+    EXPECT_EQ(select.int32(3), std::nullopt);
+    EXPECT_EQ(select.int64(3), std::nullopt);
+    EXPECT_EQ(select.real(3), std::nullopt);
+    EXPECT_EQ(select.text(3), std::nullopt);
+    EXPECT_EQ(select.blob(3), std::nullopt);
+    EXPECT_EQ(select.int32(4), -7);
+    EXPECT_EQ(select.text(4), "-7");
+    EXPECT_EQ(select.text(5), std::string("a\0b", 3));
+    EXPECT_EQ(select.step(), Step::done);
+}
+
+TEST_F(Sqlite, KeepsBindingsOverAReset) {
+    Connection connection = openFile();
+    ASSERT_TRUE(connection.execute("CREATE TABLE t (a, b)"));
+    Statement insert = connection.prepare("INSERT INTO t VALUES (?, ?)");
+    insert.bind(1, 1.5);
+    for (const std::int64_t row : {1, 2}) {
+        insert.bind(2, row);
+        ASSERT_EQ(insert.step(), Step::done);
+        insert.reset();
+        EXPECT_EQ(connection.lastInsertedRow(), row);
+    }
+    Statement select = connection.prepare("SELECT COUNT(*) FROM t WHERE a = 1.5");
+    ASSERT_EQ(select.step(), Step::row);
+    EXPECT_EQ(select.int32(0), 2);
+}
+
+TEST_F(Sqlite, OpensOnlyAsTheModeSays) {
+    const HostPath file((m_folder / "db").string());
+    EXPECT_FALSE(Connection::open(file, OpenMode::readWrite));
+    EXPECT_FALSE(Connection::open(file, OpenMode::readOnly));
+    ASSERT_TRUE(openFile().execute("CREATE TABLE t (a)"));
+    auto reader = Connection::open(file, OpenMode::readOnly);
+    ASSERT_TRUE(reader);
+    EXPECT_FALSE(reader->execute("INSERT INTO t VALUES (1)"));
+    EXPECT_EQ(reader->lastErrorCode(), SQLITE_READONLY);
+    EXPECT_FALSE(reader->prepare("SELECT missing FROM t"));
+    EXPECT_EQ(reader->lastError(), "no such column: missing");
+}
+
+TEST_F(Sqlite, FailsAtOnceWhereAnotherConnectionHoldsTheLock) {
+    Connection first = openFile();
+    ASSERT_TRUE(first.execute("CREATE TABLE t (a)"));
+    Connection second = openFile();
+    const Transaction holder(first, "BEGIN EXCLUSIVE TRANSACTION");
+    ASSERT_TRUE(holder.isOpen());
+    Transaction late(second, "BEGIN EXCLUSIVE TRANSACTION");
+    EXPECT_FALSE(late.isOpen());
+    EXPECT_EQ(second.lastErrorCode(), SQLITE_BUSY);
+    EXPECT_FALSE(late.commit());
+}
+
+TEST_F(Sqlite, RollsBackWhatIsNotCommitted) {
+    Connection connection = openFile();
+    ASSERT_TRUE(connection.execute("CREATE TABLE t (a)"));
+    {
+        const Transaction dropped(connection, "BEGIN");
+        ASSERT_TRUE(connection.execute("INSERT INTO t VALUES (1)"));
+    }
+    EXPECT_EQ(count(connection), 0);
+    Transaction kept(connection, "BEGIN");
+    ASSERT_TRUE(connection.execute("INSERT INTO t VALUES (1)"));
+    EXPECT_TRUE(kept.commit());
+    EXPECT_FALSE(kept.isOpen());
+    EXPECT_EQ(count(connection), 1);
+}
+
+TEST_F(Sqlite, RollsBackAFailedCommit) {
+    Connection connection = openFile();
+    ASSERT_TRUE(connection.execute("PRAGMA foreign_keys = ON; CREATE TABLE p (id INTEGER PRIMARY KEY);"
+                                   "CREATE TABLE t (p REFERENCES p DEFERRABLE INITIALLY DEFERRED)"));
+    Transaction transaction(connection, "BEGIN");
+    ASSERT_TRUE(connection.execute("INSERT INTO t VALUES (1)"));
+    EXPECT_FALSE(transaction.commit());
+    EXPECT_FALSE(connection.inTransaction());
+    EXPECT_EQ(count(connection), 0);
+}
+
+TEST_F(Sqlite, LeavesTheOuterTransactionAloneWhenASecondCannotBegin) {
+    Connection connection = openFile();
+    ASSERT_TRUE(connection.execute("CREATE TABLE t (a)"));
+    Transaction outer(connection, "BEGIN");
+    ASSERT_TRUE(connection.execute("INSERT INTO t VALUES (1)"));
+    {
+        Transaction inner(connection, "BEGIN");
+        EXPECT_FALSE(inner.isOpen());
+        EXPECT_FALSE(inner.commit());
+    }
+    EXPECT_TRUE(outer.commit());
+    EXPECT_EQ(count(connection), 1);
+}
+
+TEST_F(Sqlite, ClosesTheConnectionThatAMoveReplaces) {
+    Connection kept = openFile();
+    ASSERT_TRUE(kept.execute("CREATE TABLE t (a); BEGIN EXCLUSIVE"));
+    auto memory = Connection::openInMemory();
+    ASSERT_TRUE(memory);
+    ASSERT_TRUE(memory->execute("CREATE TABLE t (a)"));
+    kept = std::move(*memory);
+    EXPECT_EQ(count(kept), 0);
+    EXPECT_TRUE(openFile().execute("BEGIN EXCLUSIVE"));
+
+    Statement statement = kept.prepare("SELECT 1");
+    const Statement moved(std::move(statement));
+    EXPECT_FALSE(statement);
+    EXPECT_TRUE(moved);
+}
+
+} // namespace tavrik::sqlite
