@@ -17,7 +17,8 @@ std::error_code lastError() {
 FileDescriptor::FileDescriptor(FileDescriptor&& other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
-    std::swap(m_number, other.m_number);
+    FileDescriptor taken(std::move(other)); // closes what was open until now when it goes
+    std::swap(m_number, taken.m_number);
     return *this;
 }
 

@@ -88,8 +88,9 @@ NotificationCenter::Observation::Observation(Observation&& other) noexcept
       m_id(std::exchange(other.m_id, 0)) {}
 
 NotificationCenter::Observation& NotificationCenter::Observation::operator=(Observation&& other) noexcept {
-    std::swap(m_observers, other.m_observers);
-    std::swap(m_id, other.m_id);
+    Observation taken(std::move(other)); // ends what was observed until now when it goes
+    std::swap(m_observers, taken.m_observers);
+    std::swap(m_id, taken.m_id);
     return *this;
 }
 
