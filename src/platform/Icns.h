@@ -30,8 +30,10 @@ QImage decode(ByteView container, const Representation& representation);
 /// The widest picture that decodes, the earlier one of two equals; null when none does.
 QImage largestImage(ByteView container);
 
-/// A container as the Mac writes it for a custom icon: the picture scaled to 16, 32, 64, 128, 256, 512 and 1024
-/// pixels as PNG elements. Empty when the picture is null.
+/// A container of PNG elements with the picture at 16, 32, 64, 128, 256, 512 and 1024 pixels, ending with the
+/// first size that is no smaller than it: larger ones would only be blurred. A picture that is no square is
+/// fitted into the middle of a transparent one. Empty when the picture is null. Takes some 50 ms for 1024
+/// pixels.
 Bytes encode(const QImage& picture);
 
 } // namespace tavrik::icns

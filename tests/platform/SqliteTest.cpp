@@ -1,9 +1,9 @@
 #include "platform/Sqlite.h"
 
+#include "support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-
-#include <filesystem>
 
 namespace tavrik::sqlite {
 
@@ -11,16 +11,8 @@ namespace {
 
 class Sqlite : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "sqlite-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        m_folder = pattern;
-    }
-
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
     Connection openFile() {
-        auto connection = Connection::open(HostPath((m_folder / "db").string()), OpenMode::readWriteCreate);
+        auto connection = Connection::open(m_file, OpenMode::readWriteCreate);
         EXPECT_TRUE(connection);
         return std::move(*connection);
     }
@@ -31,7 +23,8 @@ protected:
         return *statement.int64(0);
     }
 
-    std::filesystem::path m_folder;
+    test::TemporaryFolder m_folder;
+    const HostPath m_file = m_folder.path() / "db";
 };
 
 } // namespace
@@ -82,11 +75,10 @@ TEST_F(Sqlite, KeepsBindingsOverAReset) {
 }
 
 TEST_F(Sqlite, OpensOnlyAsTheModeSays) {
-    const HostPath file((m_folder / "db").string());
-    EXPECT_FALSE(Connection::open(file, OpenMode::readWrite));
-    EXPECT_FALSE(Connection::open(file, OpenMode::readOnly));
+    EXPECT_FALSE(Connection::open(m_file, OpenMode::readWrite));
+    EXPECT_FALSE(Connection::open(m_file, OpenMode::readOnly));
     ASSERT_TRUE(openFile().execute("CREATE TABLE t (a)"));
-    auto reader = Connection::open(file, OpenMode::readOnly);
+    auto reader = Connection::open(m_file, OpenMode::readOnly);
     ASSERT_TRUE(reader);
     EXPECT_FALSE(reader->execute("INSERT INTO t VALUES (1)"));
     EXPECT_EQ(reader->lastErrorCode(), SQLITE_READONLY);
