@@ -100,7 +100,16 @@ private:
     bool writeText(std::string_view tag, std::string_view content) {
         std::string escaped;
         escaped.reserve(content.size());
-        while (!content.empty()) {
+        while (true) {
+            const auto* const special = std::ranges::find_if(content, [](char byte) {
+                return static_cast<signed char>(byte) < 0x20 || byte == '&' || byte == '<' ||
+                       byte == '>'; // negative outside ASCII
+            });
+            const auto plain = static_cast<std::size_t>(special - content.begin());
+            escaped += content.substr(0, plain);
+            content.remove_prefix(plain);
+            if (content.empty())
+                return element(tag, escaped);
             const std::string_view before = content;
             const auto point = takeCodePoint(content);
             if (!point || (*point < 0x20 && *point != '\t' && *point != '\n' && *point != '\r') ||
@@ -123,7 +132,6 @@ private:
                 escaped += before.substr(0, before.size() - content.size());
             }
         }
-        return element(tag, escaped);
     }
 
     bool element(std::string_view tag, std::string_view content) {

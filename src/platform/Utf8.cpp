@@ -1,5 +1,6 @@
 #include "platform/Utf8.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -31,11 +32,14 @@ std::optional<char32_t> takeCodePoint(std::string_view& text) {
 }
 
 bool isUtf8(std::string_view text) {
-    while (!text.empty()) {
+    while (true) {
+        const auto* const ascii = std::ranges::find_if(text, [](char byte) { return (byte & 0x80) != 0; });
+        text.remove_prefix(static_cast<std::size_t>(ascii - text.begin()));
+        if (text.empty())
+            return true;
         if (!takeCodePoint(text))
             return false;
     }
-    return true;
 }
 
 } // namespace tavrik
