@@ -24,16 +24,17 @@ struct BookmarkTarget {
     std::string volumeUUID;
     std::uint64_t volumeSize = 0; ///< bytes
     Date volumeCreated;
-    std::optional<std::string> homeUser; ///< inside a home folder: its user; adds the three keys of a home
+    /// Inside a home folder: its user. Adds the three keys of a home.
+    std::optional<std::string> homeUser = std::nullopt;
     std::uint32_t homeUserID = 501;
 };
 
 Bytes encodeBookmark(const BookmarkTarget& target);
 
 /// The path that a bookmark records, from "/" (for a volume's root its mount path). An error for what is
-/// damaged, names nothing, or holds a component that is
-/// "", ".", ".." or has a "/" or NUL in it. Whether anything is there is not looked at. The container of a
-/// Finder alias file is accepted too.
+/// damaged, names nothing, is longer than 16 KB, or holds a component that is "", ".", "..", no UTF-8, or has a
+/// "/" or NUL in it. Whether anything is there is not looked at. The container of a Finder alias file is
+/// accepted too.
 Result<MacPath> decodeBookmarkPath(ByteView bookmark);
 
 } // namespace tavrik::practice

@@ -1,8 +1,7 @@
+#include "platform/Utf8.h"
 #include "platform/practice/BookmarkCodec.h"
 #include "platform/practice/BookmarkFormat.h"
 #include "platform/practice/ByteOrder.h"
-
-#include <QByteArrayView>
 
 #include <optional>
 #include <string_view>
@@ -101,7 +100,7 @@ private:
 
 bool isPathComponent(std::string_view text) {
     return !text.empty() && text != "." && text != ".." && text.find('/') == text.npos &&
-           text.find('\0') == text.npos && QByteArrayView(text.data(), qsizetype(text.size())).isValidUtf8();
+           text.find('\0') == text.npos && isUtf8(text);
 }
 
 /// Adds "/" and the component; false when it is none or the path grows too long.

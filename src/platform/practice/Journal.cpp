@@ -1,22 +1,20 @@
 #include "platform/practice/Journal.h"
 
+#include "platform/FileDescriptor.h"
 #include "platform/PosixFileManager.h"
 
 #include <QByteArray>
 
 #include <fcntl.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 
 namespace tavrik::practice {
 
 namespace {
 
-Error failed(const MacPath& journal, int code) {
-    return Error{journal.string() + ": " + std::strerror(code), code};
+Error failure(const MacPath& journal, std::error_code reason) {
+    return Error{journal.string() + ": " + reason.message(), reason.value()};
 }
 
 std::string lineOf(Date moment, const std::vector<std::string>& fields) {
@@ -37,16 +35,13 @@ Status appendToJournal(PosixFileManager& files, const MacPath& journal, Date mom
     const auto host = files.hostPath(journal, Links::follow);
     if (!host)
         return host.error();
-
-    const int file = ::open(host->string().c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
-    if (file < 0)
-        return failed(journal, errno);
-    // One write, so that a line stays whole between those of other processes.
-    const std::string line = lineOf(moment, fields);
-    const ssize_t written = ::write(file, line.data(), line.size());
-    const int code = written < 0 ? errno : ENOSPC;
-    ::close(file);
-    return written == static_cast<ssize_t>(line.size()) ? Status(Done{}) : failed(journal, code);
+    auto file = FileDescriptor::open(AT_FDCWD, host->string(), O_WRONLY | O_APPEND | O_CREAT, 0600);
+    if (!file)
+        return failure(journal, lastError());
+    // A line goes out in one write, which keeps it whole between those of other processes.
+    if (const auto failed = file.writeAll(bytesOf(lineOf(moment, fields))))
+        return failure(journal, failed);
+    return Done{};
 }
 
 } // namespace tavrik::practice

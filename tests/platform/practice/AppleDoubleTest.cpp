@@ -1,0 +1,143 @@
+#include "platform/practice/AppleDouble.h"
+#include "platform/practice/ByteOrder.h"
+#include "platform/practice/ResourceFork.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace tavrik::practice {
+
+namespace {
+
+constexpr std::uint32_t kIcns = 0x69636E73;
+
+Bytes bytes(std::string_view text) {
+    return {text.begin(), text.end()};
+}
+
+/// A map of three types, one with a name and one of the system's flags.
+Bytes variedFork() {
+    const std::vector<Resource> resources{
+        {kIcns, -16455, 0, std::nullopt, bytesOf("icon")},
+        {0x54455854, 128, 0x20, "Notes", bytesOf("first text")},
+        {0x70696373, 7, 0, "", bytesOf("")},
+        {0x54455854, 129, 0, "More", bytesOf("second text")},
+    };
+    return *encodeResourceFork(resources);
+}
+
+} // namespace
+
+TEST(ResourceFork, LaysOutOneIconAsTheMacDoes) {
+    const std::vector<Resource> icon{{kIcns, -16455, 0, std::nullopt, bytesOf("abcde")}};
+    Bytes expected;
+    for (const std::uint32_t number : {256u, 265u, 9u, 50u})
+        appendBig(expected, number);
+    const Bytes header = expected;
+    expected.resize(256);
+    append(expected, bytesOf({"\0\0\0\x05"
+                              "abcde",
+                              9}));
+    append(expected, header);
+    append(expected,
+           bytesOf({"\0\0\0\0\0\0\0\0\0\x1C\0\x32\0\0icns\0\0\0\x0A\xBF\xB9\xFF\xFF\0\0\0\0\0\0\0\0", 34}));
+
+    const auto fork = encodeResourceFork(icon);
+    ASSERT_TRUE(fork);
+    EXPECT_EQ(*fork, expected);
+}
+
+TEST(ResourceFork, ReadsBackEveryResourceByType) {
+    const Bytes fork = variedFork();
+    const auto resources = parseResourceFork(fork);
+    ASSERT_TRUE(resources);
+    std::vector<std::string> found;
+    for (const Resource& resource : *resources)
+        found.push_back(std::to_string(resource.id) + " " + resource.name.value_or("-") + " " +
+                        std::to_string(resource.attributes) + " " + std::string(textOf(resource.data)));
+    EXPECT_THAT(found, testing::ElementsAre("-16455 - 0 icon", "128 Notes 32 first text",
+                                            "129 More 0 second text", "7  0 "));
+    EXPECT_EQ(*encodeResourceFork(*resources), fork);
+}
+
+TEST(ResourceFork, RefusesWhatDoesNotFitTheFormat) {
+    const Bytes large(17u << 20);
+    const std::vector<Resource> far{{kIcns, 1, 0, std::nullopt, large}, {kIcns, 2, 0, std::nullopt, {}}};
+    EXPECT_FALSE(encodeResourceFork(far));
+    EXPECT_TRUE(encodeResourceFork(std::span(far).first(1)));
+    const std::vector<Resource> many(6000, Resource{kIcns, 1, 0, std::nullopt, {}});
+    EXPECT_FALSE(encodeResourceFork(many));
+}
+
+TEST(ResourceFork, RefusesAMapWhoseListsShareTheirBytes) {
+    Bytes fork = variedFork();
+    const auto map = readBig<std::uint32_t>(fork, 4);
+    // Every type now counts four resources, in the one list of four that there is.
+    for (std::size_t type = map + 30; type < map + 54; type += 8) {
+        fork[type + 5] = 3;
+        fork[type + 7] = 26;
+    }
+    EXPECT_FALSE(parseResourceFork(fork));
+}
+
+TEST(AppleDouble, KeepsExtendedAttributesAndWritesABlankFork) {
+    AppleDouble content;
+    content.finderInfo[8] = 4;
+    content.attributes = bytes(std::string_view("\0\0ATTR and so on", 17));
+    const Bytes file = encodeAppleDouble(content);
+    EXPECT_EQ(file.size(), 50u + 32u + 17u + 286u) << "a Mac's companion without a fork";
+    EXPECT_THAT(std::string(textOf(file)),
+                testing::HasSubstr("This resource fork intentionally left blank   "));
+    const auto read = decodeAppleDouble(file);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(*read, content);
+
+    EXPECT_TRUE(AppleDouble().isEmpty());
+    EXPECT_FALSE(content.isEmpty());
+}
+
+TEST(AppleDouble, ReadsItsPartsInAnyOrder) {
+    Bytes file;
+    appendBig(file, std::uint32_t{0x00051607});
+    appendBig(file, std::uint32_t{0x00020000});
+    file.resize(24);
+    appendBig(file, std::uint16_t{3});
+    for (const std::uint32_t number : {2u, 62u, 4u, 3u, 66u, 0u, 9u, 66u, 32u})
+        appendBig(file, number);
+    append(file, bytesOf("fork"));
+    file.resize(98, 0x11);
+
+    const auto read = decodeAppleDouble(file);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->resourceFork, bytes("fork"));
+    EXPECT_EQ(read->finderInfo, Bytes(32, 0x11));
+}
+
+TEST(AppleDouble, SurvivesEveryTruncationAndEveryFlippedBit) {
+    AppleDouble content;
+    content.resourceFork = variedFork();
+    const Bytes whole = encodeAppleDouble(content);
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_FALSE(decodeAppleDouble(ByteView(whole).first(length))) << length;
+
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        Bytes flipped = whole;
+        flipped[bit / 8] ^= static_cast<std::uint8_t>(1u << (bit % 8));
+        const auto read = decodeAppleDouble(flipped);
+        if (!read)
+            continue;
+        const auto resources = parseResourceFork(read->resourceFork);
+        for (const Resource& resource : resources ? *resources : std::vector<Resource>())
+            EXPECT_LE(resource.data.size(), read->resourceFork.size()) << bit;
+    }
+}
+
+TEST(AppleDouble, NamesTheCompanionBesideTheItem) {
+    EXPECT_EQ(companionOf(MacPath("/Applications/Atlas.app")), MacPath("/Applications/._Atlas.app"));
+    EXPECT_EQ(companionOf(MacPath("/Atlas.app")), MacPath("/._Atlas.app"));
+    EXPECT_TRUE(companionOf(MacPath("/")).empty());
+    EXPECT_TRUE(companionOf(MacPath("/Applications/._Atlas.app")).empty());
+}
+
+} // namespace tavrik::practice

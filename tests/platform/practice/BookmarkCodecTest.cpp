@@ -1,0 +1,141 @@
+#include "RawBookmark.h"
+#include "platform/practice/BookmarkCodec.h"
+
+#include <QCryptographicHash>
+
+#include <gmock/gmock.h>
+
+namespace tavrik::practice {
+
+namespace {
+
+constexpr std::uint32_t kPath = 0x1004;
+constexpr std::uint32_t kVolumePath = 0x2002;
+
+BookmarkTarget atlas() {
+    return {.components = {"Applications", "Atlas.app"},
+            .fileIDs = {4711, 0xFFFFFFF00000011},
+            .created = Date{728'364'122},
+            .options = 0x20000000,
+            .volumeUUID = "0A1B2C3D-4E5F-4071-8293-A4B5C6D7E8F9",
+            .volumeSize = 494'384'795'648,
+            .volumeCreated = Date{728'364'122}};
+}
+
+BookmarkTarget note() {
+    BookmarkTarget target = atlas();
+    target.components = {"Users", "ada", "Documents", "Zürich.txt"};
+    target.fileIDs = {1, 2, 3, 4};
+    target.volumeCreated = Date{694'224'000.5};
+    target.isFolder = false;
+    target.options = 1024;
+    target.homeUser = "ada";
+    return target;
+}
+
+std::string sha256(const Bytes& bytes) {
+    const QByteArray data(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size()));
+    return QCryptographicHash::hash(data, QCryptographicHash::Sha256).toHex().toStdString();
+}
+
+/// The path, or the error in brackets.
+std::string decoded(ByteView bookmark) {
+    const auto path = decodeBookmarkPath(bookmark);
+    return path ? path->string() : "[" + path.error().description + "]";
+}
+
+const std::string kDamaged = "[The bookmark is damaged.]";
+
+} // namespace
+
+// The sums are those of bookmarks made outside this program by the system's own layout.
+TEST(BookmarkEncoder, WritesTheSystemsOwnBytesAndSharesEqualRecords) {
+    EXPECT_EQ(sha256(encodeBookmark(atlas())),
+              "3519f7278873da70b19c1d5fa18ea0a9e97ae27c8ec4f9fe170437d4429be4a5");
+    EXPECT_EQ(sha256(encodeBookmark(note())),
+              "0cc803cb44248860eaaa90461ae50cf1f6b018e1cf1ce7517f339720ff3ccbf1");
+}
+
+TEST(BookmarkDecoder, FindsThePathInEveryShapeThatMacsWrite) {
+    EXPECT_EQ(decoded(encodeBookmark(note())), "/Users/ada/Documents/Zürich.txt");
+
+    RawBookmark plain;
+    const auto target = plain.path({"System", "Applications", "Maps.app"});
+    const auto table = plain.table(1, 0, {{kPath, target}});
+    EXPECT_EQ(decoded(plain.bookmark(table, 48)), "/System/Applications/Maps.app") << "no optional key";
+    EXPECT_EQ(decoded(plain.bookmark(table, 64)), "/System/Applications/Maps.app") << "the longer header";
+    EXPECT_EQ(decoded(plain.aliasFile(table)), "/System/Applications/Maps.app") << "a Finder alias";
+
+    for (const bool backwards : {false, true}) {
+        RawBookmark two;
+        const auto inner = two.path({"Safari.app"});
+        const auto outer = two.path({"Wrong.app"});
+        const auto first = two.nextOffset();
+        const auto second = first + 20 + 12;
+        two.table(backwards ? 1 : 0xF000, backwards ? 0 : second, {{kPath, backwards ? inner : outer}});
+        two.table(backwards ? 0xF000 : 1, backwards ? first : 0, {{kPath, backwards ? outer : inner}});
+        EXPECT_EQ(decoded(two.bookmark(backwards ? second : first)), "/Safari.app") << backwards;
+    }
+
+    RawBookmark texts;
+    const auto wrong = texts.path({"Wrong.app"});
+    const auto right = texts.path({"Right.app"});
+    const auto keyed = texts.table(1, 0, {{0x80000000 | kPath, wrong}, {kPath, right}});
+    EXPECT_EQ(decoded(texts.bookmark(keyed)), "/Right.app") << "a key that is a text";
+}
+
+TEST(BookmarkDecoder, TakesTheMountPathForAVolumesRoot) {
+    const std::vector<std::pair<std::string_view, std::string>> cases{{"/", "/"},
+                                                                      {"/Volumes/Backup", "/Volumes/Backup"},
+                                                                      {"", kDamaged},
+                                                                      {"Volumes", kDamaged},
+                                                                      {"/a/../b", kDamaged},
+                                                                      {"//", kDamaged}};
+    for (const auto& [mount, expected] : cases) {
+        RawBookmark root;
+        const auto none = root.array({});
+        const auto table = root.table(1, 0, {{kPath, none}, {kVolumePath, root.text(mount)}});
+        EXPECT_EQ(decoded(root.bookmark(table)), expected) << mount;
+    }
+}
+
+TEST(BookmarkDecoder, RefusesComponentsThatWouldLeadElsewhere) {
+    for (const std::string_view component :
+         {std::string_view(""), std::string_view("."), std::string_view(".."), std::string_view("a/b"),
+          std::string_view("a\0b", 3), std::string_view("\xC3\x28"), std::string_view("\xED\xA0\x80")}) {
+        RawBookmark raw;
+        const auto path = raw.path({"Applications", component, "Atlas.app"});
+        EXPECT_EQ(decoded(raw.bookmark(raw.table(1, 0, {{kPath, path}}))), kDamaged) << component;
+    }
+}
+
+TEST(BookmarkDecoder, RefusesLoopsAndWhatUnfolds) {
+    RawBookmark loop;
+    const auto itself = loop.array({loop.nextOffset()});
+    EXPECT_EQ(decoded(loop.bookmark(loop.table(1, 0, {{kPath, itself}}))), kDamaged) << "an array in itself";
+
+    RawBookmark tables;
+    const auto table = tables.table(7, tables.nextOffset(), {});
+    EXPECT_EQ(decoded(tables.bookmark(table)), kDamaged) << "a table behind itself";
+
+    RawBookmark repeated;
+    const std::vector<std::uint32_t> often(100'000, repeated.text(std::string(200, 'a')));
+    const auto path = repeated.array(often);
+    EXPECT_EQ(decoded(repeated.bookmark(repeated.table(1, 0, {{kPath, path}}))), kDamaged);
+}
+
+TEST(BookmarkDecoder, SurvivesEveryTruncationAndEveryFlippedBit) {
+    const Bytes whole = encodeBookmark(note());
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_EQ(decoded(ByteView(whole).first(length)), kDamaged) << length;
+
+    // A copy of its own size, so that a sanitizer sees a read beyond the end.
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        Bytes flipped = whole;
+        flipped[bit / 8] ^= static_cast<std::uint8_t>(1u << (bit % 8));
+        const std::string path = decoded(flipped);
+        EXPECT_TRUE(path == kDamaged || (path.starts_with("/") && path.find("/../") == path.npos)) << bit;
+    }
+}
+
+} // namespace tavrik::practice
