@@ -11,6 +11,8 @@
 #include "platform/Volume.h"
 #include "platform/Workspace.h"
 
+#include <QColor>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -149,8 +151,9 @@ TYPED_TEST_P(MacContract, TheMachineStaysTheSame) {
     const Machine& machine = this->mac.machine;
     EXPECT_GE(machine.systemVersion(), (SystemVersion{12, 0, 0}));
     EXPECT_EQ(machine.serialNumber(), machine.serialNumber());
-    if (const auto serial = machine.serialNumber())
+    if (const auto serial = machine.serialNumber()) {
         EXPECT_THAT(*serial, testing::MatchesRegex("[^[:space:]]+"));
+    }
 }
 
 REGISTER_TYPED_TEST_SUITE_P(MacContract, VolumePathsFitTogether, HostPathLeadsToTheSameFile,

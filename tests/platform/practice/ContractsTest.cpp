@@ -1,0 +1,73 @@
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeFileManager.h"
+#include "platform/practice/PracticeMac.h"
+#include "support/TemporaryFolder.h"
+#include "support/contracts/FileManagerContract.h"
+#include "support/contracts/MacContract.h"
+
+#include <sys/stat.h>
+
+#include <sstream>
+
+namespace tavrik::test {
+
+namespace {
+
+constexpr std::string_view kVersion = R"(<plist version="1.0"><dict>
+    <key>ProductVersion</key><string>14.6.1</string></dict></plist>)";
+
+class PracticeFiles {
+public:
+    PracticeFiles() { EXPECT_TRUE(m_files.createFolder(base())); }
+
+    FileManager& files() { return m_files; }
+
+    MacPath base() const { return MacPath("/base"); }
+
+private:
+    TemporaryFolder m_root;
+    practice::PracticeFileManager m_files{m_root.path()};
+};
+
+/// The smallest volume that a program can run on. Its two tools are shell scripts, which know the volume by
+/// their own path.
+class PracticeAdapter {
+public:
+    PracticeAdapter() {
+        EXPECT_TRUE(mac().files.createFolder(practice::kHome));
+        EXPECT_TRUE(mac().files.createFolder(practice::kSystemVersionFile.parent()));
+        EXPECT_TRUE(mac().files.write(practice::kSystemVersionFile, bytesOf(kVersion)));
+        EXPECT_TRUE(mac().files.write(practice::kSerialNumberFile, bytesOf("C02TAVR1K\n")));
+        install("touch", "#!/bin/sh\n: >> \"${0%/usr/bin/touch}$1\"\n");
+        install("killall", "#!/bin/sh\necho 'No matching processes' >&2\nexit 1\n");
+    }
+
+    Mac& mac() { return m_practice.mac(); }
+
+    std::vector<std::string> posted() {
+        const auto journal = mac().files.read(practice::kNotificationJournal);
+        std::istringstream lines(journal ? std::string(textOf(*journal)) : "");
+        std::vector<std::string> names;
+        for (std::string line; std::getline(lines, line);)
+            names.push_back(line.substr(line.find('\t') + 1));
+        return names;
+    }
+
+private:
+    void install(const std::string& name, std::string_view script) {
+        const MacPath tool = MacPath("/usr/bin") / name;
+        EXPECT_TRUE(mac().files.createFolder(tool.parent()));
+        EXPECT_TRUE(mac().files.create(tool, bytesOf(script)));
+        EXPECT_EQ(::chmod(mac().volume.hostPath(tool).string().c_str(), 0700), 0);
+    }
+
+    TemporaryFolder m_root;
+    practice::PracticeMac m_practice{m_root.path()};
+};
+
+} // namespace
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Practice, FileManagerContract, PracticeFiles);
+INSTANTIATE_TYPED_TEST_SUITE_P(Practice, MacContract, PracticeAdapter);
+
+} // namespace tavrik::test
