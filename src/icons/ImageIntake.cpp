@@ -1,0 +1,165 @@
+#include "icons/ImageIntake.h"
+
+#include "icons/Drawing.h"
+#include "icons/PictureFormat.h"
+#include "platform/Icns.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include <algorithm>
+#include <string>
+
+namespace tavrik {
+
+namespace {
+
+constexpr int kDrawingSide = 1024; ///< pixels of a drawing's longer side
+constexpr const char* kWhatWorks = "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG or ICNS picture.";
+
+class Refusal {
+public:
+    explicit Refusal(std::string_view name) : m_name(name) {}
+
+    Error unknown() const { return because("is not a picture of a kind that can be read", kWhatWorks); }
+
+    Error empty() const { return because("is empty", kWhatWorks); }
+
+    Error cutShort() const {
+        return because("is cut short: it ends before the picture does", "Copy, export or download it again.");
+    }
+
+    Error damaged() const {
+        return because("is damaged and cannot be read",
+                       "Open it in a picture editor and export it again as PNG.");
+    }
+
+    Error tooLarge(QSize size) const {
+        return because("is too large: " + std::to_string(size.width()) + " by " +
+                           std::to_string(size.height()) + " pixels",
+                       "Scale it down; 1024 by 1024 pixels is all that an icon needs, and " +
+                           std::to_string(kLargestPictureSide) + " a side is the most that is read.");
+    }
+
+    Error unreadableIcon() const {
+        return because("is an icon file without a picture that can be read here",
+                       "Open it in a picture editor and export its largest picture as PNG.");
+    }
+
+    Error unreadableDrawing() const {
+        return because("is a drawing that cannot be read", "Export it again as plain SVG, or as PNG.");
+    }
+
+    Error incompleteDrawing() const {
+        return because("is a drawing that takes in other files",
+                       "Export it with its pictures embedded, or as PNG.");
+    }
+
+private:
+    Error because(const std::string& what, const std::string& remedy) const {
+        return {"“" + m_name + "” " + what + ". " + remedy, 0};
+    }
+
+    const std::string m_name;
+};
+
+QByteArray borrowed(ByteView data) {
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(data.data()),
+                                   static_cast<qsizetype>(data.size()));
+}
+
+const char* readerName(PictureFormat format) {
+    switch (format) {
+    case PictureFormat::png:
+        return "png";
+    case PictureFormat::jpeg:
+        return "jpeg";
+    case PictureFormat::tiff:
+        return "tiff";
+    case PictureFormat::webp:
+        return "webp";
+    case PictureFormat::gif:
+        return "gif";
+    default:
+        return "bmp";
+    }
+}
+
+/// Decoded size in bytes; four a pixel where the reader does not say.
+std::size_t decodedBytes(QSize size, QImage::Format format) {
+    const int bits = format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
+    return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()) *
+           static_cast<std::size_t>(std::max(bits, 32)) / 8;
+}
+
+/// Qt refuses pictures above 128 MB unless told otherwise, for the process as a whole.
+void allowLargePictures() {
+    static const bool done = [] {
+        QImageReader::setAllocationLimit(static_cast<int>(kLargestPictureBytes >> 20));
+        return true;
+    }();
+    static_cast<void>(done);
+}
+
+Result<QImage> readPixels(ByteView data, PictureFormat format, const Refusal& refusal) {
+    allowLargePictures();
+    QByteArray bytes = borrowed(data);
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, readerName(format));
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+
+    const QSize size = reader.size();
+    if (size.isEmpty())
+        return refusal.damaged();
+    if (std::max(size.width(), size.height()) > kLargestPictureSide ||
+        decodedBytes(size, reader.imageFormat()) > kLargestPictureBytes)
+        return refusal.tooLarge(size);
+    if (!holdsWholePicture(data, format))
+        return refusal.cutShort();
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        return refusal.damaged();
+    return picture;
+}
+
+/// Eight bits a channel, in sRGB. A picture that names no colours of its own is taken to be in sRGB.
+QImage standardised(const QImage& picture) {
+    QImage result = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (result.colorSpace().isValid())
+        result.convertToColorSpace(QColorSpace::SRgb);
+    else
+        result.setColorSpace(QColorSpace::SRgb);
+    return result;
+}
+
+} // namespace
+
+Result<QImage> readPicture(ByteView data, std::string_view name) {
+    const Refusal refusal(name);
+    if (data.empty())
+        return refusal.empty();
+    const auto format = pictureFormat(data);
+    if (!format)
+        return refusal.unknown();
+    switch (*format) {
+    case PictureFormat::icns: {
+        const QImage picture = icns::largestImage(data);
+        return picture.isNull() ? Result<QImage>(refusal.unreadableIcon()) : standardised(picture);
+    }
+    case PictureFormat::svg: {
+        if (refersToOtherFiles(data))
+            return refusal.incompleteDrawing();
+        const QImage picture = render(data, kDrawingSide);
+        return picture.isNull() ? Result<QImage>(refusal.unreadableDrawing()) : standardised(picture);
+    }
+    default: {
+        const auto picture = readPixels(data, *format, refusal);
+        return picture ? Result<QImage>(standardised(*picture)) : picture;
+    }
+    }
+}
+
+} // namespace tavrik
