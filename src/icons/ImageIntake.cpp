@@ -103,6 +103,8 @@ void allowLargePictures() {
 }
 
 Result<QImage> readPixels(ByteView data, PictureFormat format, const Refusal& refusal) {
+    if (!holdsWholePicture(data, format))
+        return refusal.cutShort();
     allowLargePictures();
     QByteArray bytes = borrowed(data);
     QBuffer buffer(&bytes);
@@ -117,8 +119,6 @@ Result<QImage> readPixels(ByteView data, PictureFormat format, const Refusal& re
     if (std::max(size.width(), size.height()) > kLargestPictureSide ||
         decodedBytes(size, reader.imageFormat()) > kLargestPictureBytes)
         return refusal.tooLarge(size);
-    if (!holdsWholePicture(data, format))
-        return refusal.cutShort();
     const QImage picture = reader.read();
     if (picture.isNull())
         return refusal.damaged();

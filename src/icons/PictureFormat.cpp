@@ -35,6 +35,22 @@ private:
     std::size_t m_position = 0;
 };
 
+/// From chunk to chunk until the closing one.
+bool pngEnds(ByteView data) {
+    constexpr std::size_t kSignature = 8;
+    constexpr std::size_t kAround = 12; // length, type and checksum of a chunk
+    std::size_t position = kSignature;
+    while (data.size() >= kAround && position <= data.size() - kAround) {
+        const auto chunk = data.subspan(position);
+        const std::size_t length = std::size_t{chunk[0]} << 24 | std::size_t{chunk[1]} << 16 |
+                                   std::size_t{chunk[2]} << 8 | std::size_t{chunk[3]};
+        if (textOf(chunk.subspan(4, 4)) == "IEND")
+            return true;
+        position += kAround + length;
+    }
+    return false;
+}
+
 /// From marker to marker until the end of the image; pictures within segments are stepped over with them.
 bool jpegEnds(ByteView data) {
     constexpr unsigned kEndOfImage = 0xD9;
@@ -128,6 +144,8 @@ std::optional<PictureFormat> pictureFormat(ByteView data) {
 
 bool holdsWholePicture(ByteView data, PictureFormat format) {
     switch (format) {
+    case PictureFormat::png:
+        return pngEnds(data);
     case PictureFormat::jpeg:
         return jpegEnds(data);
     case PictureFormat::gif:

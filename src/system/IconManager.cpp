@@ -43,10 +43,12 @@ std::string namedIconFile(const FileManager& files, const MacPath& bundle) {
 
 /// An icon file at its largest representation, the first of equals. Null when it does not load.
 QImage loadIconFile(ByteView data) {
-    const auto representations = icns::representations(data);
     // Some applications ship a plain picture under the name of an icon file.
-    if (representations.empty())
+    if (!textOf(data).starts_with("icns"))
         return QImage::fromData(data.data(), static_cast<int>(data.size()));
+    const auto representations = icns::representations(data);
+    if (representations.empty())
+        return QImage();
     const auto largest =
         std::max_element(representations.begin(), representations.end(),
                          [](const auto& left, const auto& right) { return left.width < right.width; });

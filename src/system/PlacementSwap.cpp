@@ -60,7 +60,8 @@ std::optional<std::string> swapPlacements(sqlite::Connection& connection, RowID 
 
     if (!connection.execute("UPDATE dbinfo SET value='0' WHERE key='ignore_items_update_triggers'"))
         return swapError(5, "Failed to re-enable triggers");
-    if (!transaction.commit())
+    // Not by `commit`, whose rolling back makes SQLite forget what was wrong.
+    if (!connection.execute("COMMIT"))
         return errorText("SQLite", connection.lastErrorCode(), connection.lastError());
     return std::nullopt;
 }

@@ -1,0 +1,166 @@
+#include "model/SettingsManager.h"
+
+#include "support/LogRecorder.h"
+#include "support/SmallMac.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace tavrik {
+namespace {
+
+using testing::ElementsAre;
+
+class SettingsManagerTest : public testing::Test {
+protected:
+    void writeMain(const std::string& text) { ignoreFailure(small.files.write(main, bytesOf(text))); }
+
+    plist::Value onDisk(const MacPath& file) {
+        const auto data = small.mac.files.read(file);
+        const auto value = data ? plist::parse(*data) : Result<plist::Value>(data.error());
+        return value ? *value : plist::Value("none");
+    }
+
+    static std::string xml(const std::string& content) {
+        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + content + "</plist>\n";
+    }
+
+    test::SmallMac small;
+    test::LogRecorder log;
+    SettingsManager settings{small.mac};
+    const MacPath main = settings.appSupportURL() / "AppSettings.plist";
+    const MacPath backup = settings.appSupportURL() / "AppSettings.backup";
+};
+
+TEST_F(SettingsManagerTest, StartsWithNothingAndMakesNoBackupOfNothing) {
+    EXPECT_EQ(settings.getBackupRetentionCount(), 30);
+    EXPECT_THAT(log.lines(), ElementsAre("WARNING: Main settings file failed to load, trying backup",
+                                         "WARNING: No valid settings found, returning empty"));
+    settings.setBackupRetentionCount(7);
+    EXPECT_FALSE(small.files.exists(backup));
+    settings.setBackupRetentionCount(8);
+    EXPECT_EQ(onDisk(backup), plist::Value(plist::Dictionary{{"BackupRetentionCount", 7}}));
+    EXPECT_EQ(small.mac.files.attributes(main)->permissions, 0600u);
+    EXPECT_EQ(small.mac.files.attributes(settings.iconCacheURL())->permissions, 0700u);
+}
+
+TEST_F(SettingsManagerTest, PutsTheBackupInThePlaceOfABadMainFile) {
+    const std::string good = xml("<dict><key>BackupRetentionCount</key><integer>5</integer></dict>");
+    for (const std::string& bad : {std::string(), std::string("not a list"), xml("<dict/>"), xml("<array/>"),
+                                   good.substr(0, good.size() / 2)}) {
+        ignoreFailure(small.files.write(backup, bytesOf(good)));
+        writeMain(bad);
+        log.clear();
+        settings.dropCache();
+        EXPECT_EQ(settings.getBackupRetentionCount(), 5) << bad;
+        EXPECT_THAT(log.lines(), ElementsAre("WARNING: Main settings file failed to load, trying backup",
+                                             "Restored settings from backup"));
+        EXPECT_EQ(textOf(*small.mac.files.read(main)), good);
+    }
+}
+
+TEST_F(SettingsManagerTest, KeepsForeignKeysAndEditsMadeByHand) {
+    settings.setSelectedIcon("com.example.atlas", 2);
+    writeMain(
+        xml("<dict><key>Foreign</key><array><real>1.5</real></array>"
+            "<key>SelectedIcons</key><dict><key>com.example.brio</key><integer>4</integer></dict></dict>"));
+    settings.setSelectedIcon("com.example.atlas", 3);
+    EXPECT_EQ(settings.getSelectedIcon("com.example.brio"), 4);
+    settings.setSelectedIcon("com.example.atlas", std::nullopt);
+    settings.setSelectedIcon("com.example.brio", std::nullopt);
+    EXPECT_EQ(onDisk(main), plist::Value(plist::Dictionary{{"Foreign", plist::Array{1.5}},
+                                                           {"SelectedIcons", plist::Dictionary{}}}));
+}
+
+TEST_F(SettingsManagerTest, RefusesToWriteNothing) {
+    settings.setCurrentFontState(FontState{"Mathematical Bold", true, {}});
+    settings.setCurrentFontState(std::nullopt);
+    EXPECT_TRUE(log.has("WARNING: Attempting to save empty settings - aborting to prevent data loss"));
+    EXPECT_EQ(settings.getCurrentFontState(), (FontState{"Mathematical Bold", true, small.clock.now()}));
+}
+
+TEST_F(SettingsManagerTest, MergesFolderBackups) {
+    const RowID folder{-7};
+    const Date first = small.clock.now();
+    settings.saveFolderBackup(folder, "Games", "Games", "Fraktur");
+    small.clock.sleep(std::chrono::seconds(5));
+    settings.saveFolderBackup(folder, std::nullopt, "X", std::nullopt);
+    settings.saveFolderBackup(folder, std::nullopt, std::nullopt, "Ignored");
+    const FolderBackup expected{"Games", first, "X", small.clock.now(), "Fraktur"};
+    EXPECT_EQ(settings.getFolderBackup(folder), expected);
+    EXPECT_THAT(settings.getAllFolderBackups(), ElementsAre(std::pair(folder, expected)));
+}
+
+TEST_F(SettingsManagerTest, ReadsAWrongTypeAsNone) {
+    writeMain(
+        xml("<dict><key>BackupRetentionCount</key><string>12</string>"
+            "<key>SelectedIcons</key><dict><key>a</key><true/></dict>"
+            "<key>CurrentFontState</key><dict><key>fontName</key><string>Bold</string></dict>"
+            "<key>TavrikMappings</key><dict><key>a</key><dict><key>originalRowID</key><real>1</real></dict>"
+            "<key>b</key><string>x</string></dict>"
+            "<key>FolderBackups</key><dict><key>12a</key><dict/><key>13</key><integer>1</integer></dict>"
+            "<key>HiddenFlagApps</key><array/>"
+            "<key>SwapRecords</key><dict><key>a</key><dict/></dict></dict>"));
+    EXPECT_EQ(settings.getBackupRetentionCount(), 30);
+    EXPECT_EQ(settings.getSelectedIcon("a"), std::nullopt);
+    EXPECT_EQ(settings.getCurrentFontState(), std::nullopt);
+    EXPECT_TRUE(settings.getAllMappings().empty());
+    EXPECT_TRUE(settings.getAllFolderBackups().empty());
+    EXPECT_TRUE(settings.getAllSwapRecords().empty());
+    settings.saveHiddenFlagApp("com.apple.a", 128, RowID{1}, std::nullopt, true);
+    EXPECT_EQ(settings.getAllHiddenFlagApps().size(), 1u);
+    EXPECT_TRUE(log.has("💾 Saved hidden flag app to AppSettings.plist: com.apple.a with flags: 128"));
+}
+
+TEST_F(SettingsManagerTest, BringsEveryRecordBackAsItWasSaved) {
+    const DockBookmark bookmark{"com.example.atlas", {0, 1, 255}, false};
+    settings.saveDockBookmark(bookmark);
+    settings.saveMapping("com.example.atlas", RowID{1LL << 40}, RowID{-3});
+    settings.saveHiddenFlagApp("com.apple.a", 0x80000080, RowID{4}, RowID{5}, false);
+    const SwapRecord record{RowID{1}, {std::nullopt, RowID{2}, -3}, RowID{4}, {128, RowID{5}, 6}};
+    EXPECT_TRUE(settings.saveSwapRecord("com.example.atlas", record));
+
+    SettingsManager again(small.mac);
+    const Date now = small.clock.now();
+    EXPECT_EQ(again.getDockBookmark("com.example.atlas"), bookmark);
+    EXPECT_EQ(again.getMapping("com.example.atlas"), (TavrikMapping{RowID{1LL << 40}, RowID{-3}, now}));
+    EXPECT_EQ(again.getHiddenFlagApp("com.apple.a"),
+              (HiddenFlagApp{0x80000080, RowID{4}, RowID{5}, false, now}));
+    EXPECT_EQ(again.getSwapRecord("com.example.atlas"), record);
+    again.removeSwapRecord("com.example.atlas");
+    again.removeDockBookmark("com.example.atlas");
+    again.removeMapping("com.example.atlas");
+    settings.dropCache();
+    EXPECT_FALSE(settings.getSwapRecord("com.example.atlas") || settings.getMapping("com.example.atlas") ||
+                 settings.getDockBookmark("com.example.atlas"));
+}
+
+TEST_F(SettingsManagerTest, ServesGettersFromMemory) {
+    settings.setSelectedIcon("com.example.atlas", 1);
+    settings.preloadSettings();
+    small.files.forget();
+    for (int round = 0; round < 1000; ++round) {
+        EXPECT_EQ(settings.getSelectedIcon("com.example.atlas"), 1);
+        EXPECT_FALSE(settings.getMapping("com.example.atlas"));
+    }
+    EXPECT_EQ(small.files.count(), 0u);
+}
+
+TEST_F(SettingsManagerTest, LosesNoChangeOfTwoThreads) {
+    constexpr int kEach = 40;
+    const auto fill = [&](const std::string& prefix) {
+        for (int index = 0; index < kEach; ++index) {
+            settings.setSelectedIcon(prefix + std::to_string(index), index);
+            EXPECT_EQ(settings.getSelectedIcon(prefix + std::to_string(index)), index);
+        }
+    };
+    std::thread other(fill, "other");
+    fill("own");
+    other.join();
+    EXPECT_EQ(onDisk(main).find<plist::Dictionary>("SelectedIcons")->size(), std::size_t{2 * kEach});
+}
+
+} // namespace
+} // namespace tavrik

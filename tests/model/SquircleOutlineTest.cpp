@@ -1,0 +1,53 @@
+#include "model/SquircleOutline.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrik {
+namespace {
+
+TEST(SquircleOutline, IsASuperellipseAboutTheMiddle) {
+    // Half axis 435.2: on the axis and on the diagonal, where the outline is at 435.2 / 2^(1/4) = 365.96.
+    EXPECT_TRUE(isInsideSquircle(512 + 434, 512, 1024));
+    EXPECT_FALSE(isInsideSquircle(512 + 435, 512, 1024));
+    EXPECT_TRUE(isInsideSquircle(512 + 365, 512 + 365, 1024));
+    EXPECT_FALSE(isInsideSquircle(512 + 366, 512 + 366, 1024));
+    for (int size : {15, 16}) {
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x)
+                EXPECT_EQ(isInsideSquircle(x, y, size), isInsideSquircle(size - 1 - x, size - 1 - y, size));
+        }
+    }
+}
+
+TEST(SquircleOutline, CutsWithASoftEdgeThatKeepsTheArea) {
+    QImage square(256, 256, QImage::Format_ARGB32_Premultiplied);
+    square.fill(QColor(200, 100, 50));
+    const QImage cut = maskedToSquircle(square);
+    double area = 0;
+    int soft = 0;
+    for (int y = 0; y < 256; ++y) {
+        for (int x = 0; x < 256; ++x) {
+            const int alpha = qAlpha(cut.pixel(x, y));
+            area += alpha / 255.0;
+            soft += alpha > 0 && alpha < 255;
+            // Only a pixel that the outline touches may differ from the sharp answer.
+            if (alpha == 0 || alpha == 255) {
+                EXPECT_EQ(alpha == 255, isInsideSquircle(x, y, 256)) << x << " " << y;
+            }
+        }
+    }
+    // The area of |x|^4 + |y|^4 = r^4 is 3.70815 r^2.
+    EXPECT_NEAR(area, 3.70815 * 108.8 * 108.8, 30);
+    EXPECT_GT(soft, 500);
+    EXPECT_LT(soft, 1200);
+    EXPECT_EQ(cut.pixel(128, 128), qRgb(200, 100, 50));
+}
+
+TEST(SquircleOutline, PassesWhatIsNotSquare) {
+    QImage wide(20, 10, QImage::Format_RGB32);
+    wide.fill(Qt::red);
+    EXPECT_EQ(maskedToSquircle(wide), wide);
+}
+
+} // namespace
+} // namespace tavrik

@@ -1,0 +1,139 @@
+#include "system/IconManager.h"
+
+#include "platform/Icns.h"
+#include "platform/PropertyList.h"
+#include "platform/Workspace.h"
+#include "support/LogRecorder.h"
+#include "support/SmallMac.h"
+
+#include <QColorSpace>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace tavrik {
+namespace {
+
+QImage plain(int width, int height, QColor colour) {
+    QImage picture(width, height, QImage::Format_ARGB32);
+    picture.fill(colour);
+    return picture;
+}
+
+class AppIconReading : public testing::Test {
+protected:
+    void write(const char* relative, ByteView data) {
+        ignoreFailure(small.files.createFolder((bundle / relative).parent()));
+        ASSERT_TRUE(small.files.write(bundle / relative, data));
+    }
+
+    void nameIcon(const plist::Value& value, const char* place = "Contents/Info.plist") {
+        const plist::Value info(plist::Dictionary{{"CFBundleIconFile", value}});
+        write(place, *plist::serialize(info, plist::Format::binary));
+    }
+
+    QColor colour() { return icons.appIcon(bundle).pixelColor(512, 512); }
+
+    test::SmallMac small;
+    IconManager icons{small.mac};
+    const MacPath bundle{"/Applications/Atlas.app"};
+};
+
+TEST_F(AppIconReading, TakesTheFirstIconFileThatLoadsAtItsFullSize) {
+    write("Contents/Resources/Atlas.icns", icns::encode(plain(1024, 1024, Qt::red)));
+    write("Contents/Resources/Icon.icns", icns::encode(plain(1024, 1024, Qt::green)));
+    write("Contents/Resources/app.icns", icns::encode(plain(1024, 1024, Qt::blue)));
+
+    struct Case {
+        plist::Value named;
+        Qt::GlobalColor expected;
+    };
+
+    for (const auto& [named, expected] :
+         {Case{"Atlas", Qt::red}, Case{"Atlas.icns", Qt::red}, Case{"Missing", Qt::green}, Case{"", Qt::green},
+          Case{7, Qt::green}, Case{"../Resources/Atlas", Qt::green}, Case{"app", Qt::blue}}) {
+        nameIcon(named);
+        EXPECT_EQ(colour(), QColor(expected));
+        EXPECT_EQ(icons.appIcon(bundle).width(), 1024);
+    }
+    nameIcon("Atlas");
+    Bytes cut = icns::encode(plain(1024, 1024, Qt::red));
+    cut.resize(cut.size() / 2);
+    write("Contents/Resources/Atlas.icns", cut);
+    EXPECT_EQ(colour(), QColor(Qt::green));
+    write("Contents/Info.plist", bytesOf("damaged"));
+    EXPECT_EQ(colour(), QColor(Qt::green));
+}
+
+TEST_F(AppIconReading, LooksIntoIOSApplications) {
+    nameIcon("Atlas", "Wrapper/Inner.app/Info.plist");
+    write("Wrapper/Inner.app/Atlas.icns", icns::encode(plain(1024, 1024, Qt::red)));
+    ignoreFailure(small.files.createLink(bundle / "WrappedBundle", "Wrapper/Inner.app"));
+    EXPECT_EQ(colour(), QColor(Qt::red));
+}
+
+TEST_F(AppIconReading, FallsBackToTheWorkspace) {
+    write("Contents/Resources/Assets.car", bytesOf("BOMStore"));
+    EXPECT_FALSE(icons.appIcon(bundle).isNull());
+    EXPECT_FALSE(icons.appIcon(MacPath("/nowhere")).isNull());
+    EXPECT_TRUE(small.mac.workspace.setIcon(bundle, plain(512, 512, Qt::magenta)));
+    EXPECT_EQ(icons.appIcon(bundle), small.mac.workspace.icon(bundle));
+}
+
+struct Fit {
+    int width, height;
+    QRect drawn;
+};
+
+class SquareIcon : public testing::TestWithParam<Fit> {};
+
+TEST_P(SquareIcon, FitsAndCentresWithTheOddRemainderToTheRightAndTheBottom) {
+    const auto [width, height, drawn] = GetParam();
+    const auto square = IconManager::squareIcon(plain(width, height, QColor(10, 200, 90, 255)));
+    ASSERT_TRUE(square);
+    ASSERT_EQ(square->size(), QSize(1024, 1024));
+    for (int index = 0; index < 1024; ++index) {
+        const bool isAcross = index >= drawn.left() && index <= drawn.right();
+        const bool isDown = index >= drawn.top() && index <= drawn.bottom();
+        EXPECT_EQ(qAlpha(square->pixel(index, drawn.center().y())), isAcross ? 255 : 0) << "column " << index;
+        EXPECT_EQ(qAlpha(square->pixel(drawn.center().x(), index)), isDown ? 255 : 0) << "row " << index;
+    }
+    EXPECT_EQ(square->pixelColor(drawn.center()), QColor(10, 200, 90));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, SquareIcon,
+                         testing::Values(Fit{512, 256, {0, 256, 1024, 512}},
+                                         Fit{2000, 2000, {0, 0, 1024, 1024}}, Fit{1024, 3, {0, 510, 1024, 3}},
+                                         Fit{1023, 1024, {0, 0, 1023, 1024}}, Fit{1, 1, {0, 0, 1024, 1024}},
+                                         Fit{5000, 1, {0, 511, 1024, 1}}));
+
+TEST(SquareIcons, HoldColoursInSRGBAndKeepTransparency) {
+    QImage wide = plain(300, 300, QColor(255, 0, 0, 128));
+    wide.setColorSpace(QColorSpace::DisplayP3);
+    const auto square = IconManager::squareIcon(wide);
+    EXPECT_EQ(square->colorSpace(), QColorSpace(QColorSpace::SRgb));
+    EXPECT_EQ(square->pixelColor(512, 512).alpha(), 128);
+
+    QImage halves = plain(64, 64, Qt::transparent);
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x)
+            halves.setPixelColor(x, y, x < 32 ? QColor(255, 255, 255) : QColor(0, 0, 0, 0));
+    }
+    // The black of the transparent half must not darken the edge.
+    const QImage scaled = *IconManager::squareIcon(halves);
+    for (int x = 0; x < 1024; ++x) {
+        if (scaled.pixelColor(x, 512).alpha() > 8) {
+            EXPECT_GE(scaled.pixelColor(x, 512).red(), 240) << x;
+        }
+    }
+    EXPECT_EQ(qAlpha(IconManager::squareIcon(QImage())->pixel(0, 0)), 0);
+}
+
+TEST(SquareIcons, PassWhatIsSquareAlreadyWithoutACopy) {
+    const QImage ready = *IconManager::squareIcon(plain(700, 700, Qt::red));
+    EXPECT_EQ(IconManager::squareIcon(ready)->constBits(), ready.constBits());
+}
+
+} // namespace
+} // namespace tavrik

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "model/SettingsManager.h"
+#include "model/UnsupportedAppsManager.h"
+#include "platform/Bookmarks.h"
+#include "platform/Sqlite.h"
+#include "support/LogRecorder.h"
+#include "support/SmallMac.h"
+#include "system/DatabaseManager.h"
+#include "system/IconManager.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrik::test {
+
+/// A hand-made Launchpad database with the real tables and the triggers that a swap must silence.
+class LaunchpadSample : public testing::Test {
+protected:
+    LaunchpadSample() {
+        ignoreFailure(small.files.createFolder(database.launchpadDatabasePath().parent()));
+        connection.emplace(*sqlite::Connection::open(
+            small.mac.volume.hostPath(database.launchpadDatabasePath()), sqlite::OpenMode::readWriteCreate));
+        run(R"(
+            PRAGMA journal_mode=WAL;
+            CREATE TABLE dbinfo (key VARCHAR, value VARCHAR);
+            CREATE TABLE items (rowid INTEGER PRIMARY KEY ASC, uuid VARCHAR, flags INTEGER, type INTEGER,
+                parent_id INTEGER NOT NULL, ordering INTEGER);
+            CREATE TABLE apps (item_id INTEGER PRIMARY KEY, title VARCHAR, bundleid VARCHAR, storeid VARCHAR,
+                category_id INTEGER, moddate REAL, bookmark BLOB);
+            CREATE TABLE groups (item_id INTEGER PRIMARY KEY, category_id INTEGER, title VARCHAR);
+            CREATE TRIGGER update_item_parent AFTER UPDATE OF parent_id ON items
+                WHEN 0 == (SELECT value FROM dbinfo WHERE key='ignore_items_update_triggers')
+            BEGIN
+                UPDATE items SET ordering = (SELECT ifnull(MAX(ordering),0)+1 FROM items
+                    WHERE parent_id=new.parent_id AND ROWID!=old.rowid) WHERE ROWID=old.rowid;
+            END;
+            INSERT INTO dbinfo VALUES ('ignore_items_update_triggers', '0');)");
+    }
+
+    void run(const std::string& sql) {
+        ASSERT_TRUE(connection->execute(sql.c_str())) << connection->lastError();
+    }
+
+    /// A row like "title, identifier, flags, path": its bundle is made, its bookmark leads there.
+    void addApp(std::int64_t row, const std::string& title, std::optional<std::string> identifier,
+                std::optional<int> flags, const MacPath& bundle) {
+        ignoreFailure(small.files.createFolder(bundle));
+        addRow(row, title, std::move(identifier), flags, *small.mac.bookmarks.make(bundle));
+    }
+
+    void addRow(std::int64_t row, const std::string& title, std::optional<std::string> identifier,
+                std::optional<int> flags, std::optional<Bytes> bookmark) {
+        auto item = connection->prepare("INSERT INTO items VALUES (?1, 'uuid', ?2, 4, 100 + ?1, ?1)");
+        item.bind(1, row);
+        item.bind(2, flags);
+        EXPECT_EQ(item.step(), sqlite::Step::done);
+        auto app = connection->prepare("INSERT INTO apps VALUES (?, ?, ?, NULL, NULL, 0, ?)");
+        app.bind(1, row);
+        app.bind(2, std::string_view(title));
+        if (identifier)
+            app.bind(3, std::string_view(*identifier));
+        if (bookmark)
+            app.bind(4, ByteView(*bookmark));
+        EXPECT_EQ(app.step(), sqlite::Step::done);
+    }
+
+    std::string triggerKey() {
+        auto key = connection->prepare("SELECT value FROM dbinfo");
+        return key.step() == sqlite::Step::row ? key.text(0).value_or("NULL") : "none";
+    }
+
+    SmallMac small;
+    SettingsManager settings{small.mac};
+    UnsupportedAppsManager unsupported;
+    IconManager icons{small.mac};
+    DatabaseManager database{small.mac, settings, icons, unsupported};
+    std::optional<sqlite::Connection> connection;
+    LogRecorder log;
+};
+
+} // namespace tavrik::test
