@@ -92,11 +92,11 @@ public:
         note(::posix_spawn_file_actions_adddup2(&m_actions, output, STDOUT_FILENO));
         note(::posix_spawn_file_actions_adddup2(&m_actions, errors, STDERR_FILENO));
         sigset_t signals;
-        ::sigemptyset(&signals);
+        sigemptyset(&signals);
         note(::posix_spawnattr_setsigmask(&m_attributes, &signals));
-        ::sigfillset(&signals);
-        ::sigdelset(&signals, SIGKILL);
-        ::sigdelset(&signals, SIGSTOP);
+        sigfillset(&signals);
+        sigdelset(&signals, SIGKILL);
+        sigdelset(&signals, SIGSTOP);
         note(::posix_spawnattr_setsigdefault(&m_attributes, &signals));
         note(::posix_spawnattr_setpgroup(&m_attributes, 0));
         note(::posix_spawnattr_setflags(
