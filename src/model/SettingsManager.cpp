@@ -30,27 +30,6 @@ MacPath supportFolder(const Volume& volume) {
     return volume.applicationSupport() / (identifier.empty() ? kFallbackBundleIdentifier : identifier);
 }
 
-/// The dictionary at a key; what is missing or of another type is replaced by an empty one.
-plist::Dictionary& dictionaryAt(plist::Dictionary& parent, std::string_view key) {
-    plist::Value& value = parent[std::string(key)];
-    if (!value.as<plist::Dictionary>())
-        value = plist::Dictionary{};
-    return *value.as<plist::Dictionary>();
-}
-
-const plist::Dictionary* dictionaryAt(const plist::Dictionary& parent, std::string_view key) {
-    const auto found = parent.find(key);
-    return found == parent.end() ? nullptr : found->second.as<plist::Dictionary>();
-}
-
-const plist::Value* valueAt(const plist::Dictionary& root, std::string_view key, std::string_view subkey) {
-    const auto* entries = dictionaryAt(root, key);
-    if (!entries)
-        return nullptr;
-    const auto found = entries->find(subkey);
-    return found == entries->end() ? nullptr : &found->second;
-}
-
 std::string folderKey(RowID folderID) {
     return std::to_string(static_cast<std::int64_t>(folderID));
 }
@@ -70,7 +49,7 @@ SettingsManager::SettingsManager(Mac& mac)
     : m_clock(mac.clock),
       m_appSupportURL(supportFolder(mac.volume)),
       m_iconCacheURL(m_appSupportURL / "IconCache"),
-      m_file(mac.files, m_appSupportURL) {
+      m_store(mac.files, m_appSupportURL) {
     for (const MacPath& folder : {m_appSupportURL, m_iconCacheURL}) {
         if (const auto created = mac.files.createFolder(folder); !created) {
             log("Failed to create directories: " + created.error().description);
@@ -79,78 +58,39 @@ SettingsManager::SettingsManager(Mac& mac)
     }
 }
 
-// The file and its cache
+// The file as a whole
 
 plist::Dictionary SettingsManager::loadSettings() {
-    const std::lock_guard turn(m_writeTurn);
-    return m_file.load();
+    return m_store.load();
 }
 
 void SettingsManager::saveSettings(const plist::Dictionary& settings) {
-    {
-        const std::lock_guard turn(m_writeTurn);
-        m_file.save(settings);
-    }
-    dropCache();
+    m_store.save(settings);
 }
 
 void SettingsManager::preloadSettings() {
-    settings();
+    m_store.snapshot();
 }
 
 void SettingsManager::dropCache() {
-    const std::lock_guard lock(m_settingsCacheLock);
-    m_settingsCache.reset();
-}
-
-SettingsManager::Snapshot SettingsManager::settings() {
-    const std::lock_guard lock(m_settingsCacheLock);
-    if (!m_settingsCache) {
-        // A good file is read beside a running write; only its repair takes a turn.
-        auto content = m_file.read();
-        m_settingsCache =
-            std::make_shared<const plist::Dictionary>(content ? std::move(*content) : loadSettings());
-    }
-    return m_settingsCache;
-}
-
-SettingsFile::Saved SettingsManager::changeRoot(const Edit& edit) {
-    auto saved = SettingsFile::Saved::no;
-    {
-        const std::lock_guard turn(m_writeTurn);
-        plist::Dictionary settings = m_file.load();
-        edit(settings);
-        saved = m_file.save(settings);
-    }
-    dropCache();
-    return saved;
-}
-
-SettingsFile::Saved SettingsManager::changeEntries(std::string_view key, const Edit& edit) {
-    return changeRoot([&](plist::Dictionary& root) { edit(dictionaryAt(root, key)); });
+    m_store.dropCache();
 }
 
 void SettingsManager::removeEntry(std::string_view subkey, std::string_view key) {
-    changeRoot([&](plist::Dictionary& root) {
-        const auto found = root.find(key);
-        if (found == root.end())
-            return;
-        if (auto* entries = found->second.as<plist::Dictionary>())
-            entries->erase(std::string(subkey));
-    });
+    m_store.removeEntry(subkey, key);
 }
 
 template<typename Record>
 std::optional<Record> SettingsManager::entry(std::string_view key, std::string_view subkey) {
-    const Snapshot root = settings();
-    const plist::Value* value = valueAt(*root, key, subkey);
+    const auto root = m_store.snapshot();
+    const plist::Value* value = entryAt(*root, key, subkey);
     return value ? settings::decode<Record>(*value) : std::nullopt;
 }
 
 template<typename Record>
 std::map<std::string, Record> SettingsManager::entries(std::string_view key) {
     std::map<std::string, Record> records;
-    const Snapshot root = settings();
+    const auto root = m_store.snapshot();
     if (const auto* values = dictionaryAt(*root, key)) {
         for (const auto& [subkey, value] : *values) {
             if (auto record = settings::decode<Record>(value))
@@ -164,7 +104,8 @@ std::map<std::string, Record> SettingsManager::entries(std::string_view key) {
 
 void SettingsManager::saveMapping(const std::string& bundleID, RowID originalRowID, RowID tavrikRowID) {
     const TavrikMapping mapping{originalRowID, tavrikRowID, m_clock.now()};
-    changeEntries(kMappings, [&](plist::Dictionary& all) { all[bundleID] = settings::encode(mapping); });
+    m_store.changeEntries(kMappings,
+                          [&](plist::Dictionary& all) { all[bundleID] = settings::encode(mapping); });
 }
 
 std::optional<TavrikMapping> SettingsManager::getMapping(const std::string& bundleID) {
@@ -182,7 +123,7 @@ void SettingsManager::removeMapping(const std::string& bundleID) {
 // Selected icons
 
 void SettingsManager::setSelectedIcon(const std::string& bundleID, std::optional<std::int64_t> index) {
-    changeEntries(kSelectedIcons, [&](plist::Dictionary& all) {
+    m_store.changeEntries(kSelectedIcons, [&](plist::Dictionary& all) {
         if (index)
             all[bundleID] = *index;
         else
@@ -191,8 +132,8 @@ void SettingsManager::setSelectedIcon(const std::string& bundleID, std::optional
 }
 
 std::optional<std::int64_t> SettingsManager::getSelectedIcon(const std::string& bundleID) {
-    const Snapshot root = settings();
-    const plist::Value* value = valueAt(*root, kSelectedIcons, bundleID);
+    const auto root = m_store.snapshot();
+    const plist::Value* value = entryAt(*root, kSelectedIcons, bundleID);
     const auto* index = value ? value->as<std::int64_t>() : nullptr;
     return index ? std::optional(*index) : std::nullopt;
 }
@@ -200,7 +141,7 @@ std::optional<std::int64_t> SettingsManager::getSelectedIcon(const std::string& 
 // The styled font
 
 void SettingsManager::setCurrentFontState(const std::optional<FontState>& state) {
-    changeRoot([&](plist::Dictionary& root) {
+    m_store.change([&](plist::Dictionary& root) {
         if (state)
             root[kFontState] = settings::encode(FontState{state->fontName, state->isMultiCase, m_clock.now()});
         else
@@ -209,7 +150,7 @@ void SettingsManager::setCurrentFontState(const std::optional<FontState>& state)
 }
 
 std::optional<FontState> SettingsManager::getCurrentFontState() {
-    const Snapshot root = settings();
+    const auto root = m_store.snapshot();
     const auto found = root->find(kFontState);
     return found == root->end() ? std::nullopt : settings::decode<FontState>(found->second);
 }
@@ -219,8 +160,8 @@ std::optional<FontState> SettingsManager::getCurrentFontState() {
 void SettingsManager::saveFolderBackup(RowID folderID, const std::optional<std::string>& original,
                                        const std::optional<std::string>& lastGood,
                                        const std::optional<std::string>& lastGoodFont) {
-    changeEntries(kFolderBackups, [&](plist::Dictionary& all) {
-        plist::Dictionary& backup = dictionaryAt(all, folderKey(folderID));
+    m_store.changeEntries(kFolderBackups, [&](plist::Dictionary& all) {
+        plist::Dictionary& backup = ensureDictionaryAt(all, folderKey(folderID));
         if (original) {
             backup["original"] = *original;
             backup["originalDate"] = m_clock.now();
@@ -254,8 +195,8 @@ void SettingsManager::removeFolderBackup(RowID folderID) {
 // Dock bookmarks
 
 void SettingsManager::saveDockBookmark(const DockBookmark& bookmark) {
-    changeEntries(kDockBookmarks,
-                  [&](plist::Dictionary& all) { all[bookmark.bundleID] = settings::encode(bookmark); });
+    m_store.changeEntries(kDockBookmarks,
+                          [&](plist::Dictionary& all) { all[bookmark.bundleID] = settings::encode(bookmark); });
 }
 
 std::optional<DockBookmark> SettingsManager::getDockBookmark(const std::string& bundleID) {
@@ -275,20 +216,20 @@ void SettingsManager::setIconShape(const std::string& key, const plist::Value& r
 void SettingsManager::setIconShapes(const std::map<std::string, plist::Value>& results) {
     if (results.empty())
         return;
-    changeEntries(kIconShapes, [&](plist::Dictionary& all) {
+    m_store.changeEntries(kIconShapes, [&](plist::Dictionary& all) {
         for (const auto& [key, result] : results)
             all[key] = result;
     });
 }
 
 std::optional<plist::Value> SettingsManager::getIconShape(const std::string& key) {
-    const Snapshot root = settings();
-    const plist::Value* value = valueAt(*root, kIconShapes, key);
+    const auto root = m_store.snapshot();
+    const plist::Value* value = entryAt(*root, kIconShapes, key);
     return value ? std::optional(*value) : std::nullopt;
 }
 
 void SettingsManager::clearIconShapeCache() {
-    changeEntries(kIconShapes, [](plist::Dictionary& all) { all.clear(); });
+    m_store.changeEntries(kIconShapes, [](plist::Dictionary& all) { all.clear(); });
 }
 
 // Hidden-flag applications
@@ -302,7 +243,7 @@ void SettingsManager::saveHiddenFlagApp(const std::string& bundleID, std::int64_
 void SettingsManager::saveHiddenFlagApps(const std::vector<std::pair<std::string, HiddenFlagApp>>& apps) {
     if (apps.empty())
         return;
-    changeEntries(kHiddenFlagApps, [&](plist::Dictionary& all) {
+    m_store.changeEntries(kHiddenFlagApps, [&](plist::Dictionary& all) {
         for (const auto& [bundleID, app] : apps) {
             HiddenFlagApp seen = app;
             seen.lastSeenDate = m_clock.now();
@@ -325,11 +266,11 @@ std::map<std::string, HiddenFlagApp> SettingsManager::getAllHiddenFlagApps() {
 // Backups kept
 
 void SettingsManager::setBackupRetentionCount(std::int64_t count) {
-    changeRoot([&](plist::Dictionary& root) { root[kRetentionCount] = count; });
+    m_store.change([&](plist::Dictionary& root) { root[kRetentionCount] = count; });
 }
 
 std::int64_t SettingsManager::getBackupRetentionCount() {
-    const Snapshot root = settings();
+    const auto root = m_store.snapshot();
     const auto found = root->find(kRetentionCount);
     const auto* count = found == root->end() ? nullptr : found->second.as<std::int64_t>();
     return count ? *count : kDefaultRetentionCount;
@@ -338,12 +279,12 @@ std::int64_t SettingsManager::getBackupRetentionCount() {
 // Swaps under way
 
 bool SettingsManager::saveSwapRecord(const std::string& bundleID, const SwapRecord& record) {
-    const auto saved =
-        changeEntries(kSwapRecords, [&](plist::Dictionary& all) { all[bundleID] = settings::encode(record); });
-    if (saved != SettingsFile::Saved::yes)
+    const auto saved = m_store.changeEntries(
+        kSwapRecords, [&](plist::Dictionary& all) { all[bundleID] = settings::encode(record); });
+    if (saved != SettingsStore::Saved::yes)
         return false;
-    const auto root = m_file.read();
-    const plist::Value* stored = root ? valueAt(*root, kSwapRecords, bundleID) : nullptr;
+    const auto root = m_store.onDisk();
+    const plist::Value* stored = root ? entryAt(*root, kSwapRecords, bundleID) : nullptr;
     return stored && settings::decode<SwapRecord>(*stored) == record;
 }
 

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "model/SettingsFile.h"
 #include "model/SettingsRecords.h"
+#include "model/SettingsStore.h"
 #include "platform/Path.h"
 #include "platform/PropertyList.h"
 
-#include <functional>
 #include <map>
-#include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -100,13 +97,6 @@ public:
     void removeSwapRecord(const std::string& bundleID);
 
 private:
-    using Snapshot = std::shared_ptr<const plist::Dictionary>;
-    using Edit = std::function<void(plist::Dictionary&)>;
-
-    Snapshot settings();
-    SettingsFile::Saved changeRoot(const Edit& edit);
-    SettingsFile::Saved changeEntries(std::string_view key, const Edit& edit);
-
     template<typename Record>
     std::optional<Record> entry(std::string_view key, std::string_view subkey);
     template<typename Record>
@@ -115,14 +105,7 @@ private:
     Clock& m_clock;
     MacPath m_appSupportURL;
     MacPath m_iconCacheURL;
-
-    /// Held from reading the file to having written it, so that of two setters none loses the other's change.
-    /// May be taken while the cache's lock is held, never the other way round.
-    std::mutex m_writeTurn;
-    SettingsFile m_file;
-
-    std::mutex m_settingsCacheLock;
-    Snapshot m_settingsCache; ///< null when not loaded
+    SettingsStore m_store;
 };
 
 } // namespace tavrik
