@@ -1,0 +1,65 @@
+#include "practice/art/glyphs/Glyphs.h"
+
+namespace tavrik::practice {
+
+std::vector<Glyph> travelGlyphs() {
+    using enum Tone;
+    return {
+        {"compass",
+         {line(main, kMedium, "O 50 50 45"),
+          fill(main, "M 50 12 L 59 41 L 88 50 L 59 59 L 50 88 L 41 59 L 12 50 L 41 41 Z"),
+          fill(shade, "M 50 12 L 59 41 L 50 50 Z", 4), fill(accent, "M 50 12 L 59 41 L 50 50 L 41 41 Z"),
+          fill(shade, "M 50 12 L 59 41 L 50 50 Z")}},
+        {"globe",
+         {fill(main, "O 50 50 46"),
+          line(detail, kFine,
+               "E 50 50 19 46 M 4 50 H 96 M 11 28 Q 50 42 89 28 M 11 72 Q 50 58 89 72 M 50 4 V 96")}},
+        {"map-pin",
+         {fill(shade, "E 50 93 22 6"),
+          fill(main, "M 50 94 C 46 80 17 62 17 38 C 17 19 32 4 50 4 C 68 4 83 19 83 38 C 83 62 54 80 50 94 Z"),
+          fill(accent, "O 50 38 15")}},
+        {"map",
+         {solid(main, 4, "M 6 24 L 35 13 V 77 L 6 88 Z"), solid(main, 4, "M 35 13 L 65 24 V 88 L 35 77 Z"),
+          solid(main, 4, "M 65 24 L 94 13 V 77 L 65 88 Z"), fill(shade, "M 35 11 L 65 22 V 90 L 35 79 Z"),
+          line(detail, kFine, "M 17 68 C 24 44 38 70 48 52 C 54 42 62 46 66 50"),
+          fill(accent,
+               "M 78 64 C 77 58 68 50 68 42 C 68 36 72 32 78 32 C 84 32 88 36 88 42 C 88 50 79 58 78 64 Z")}},
+        {"rocket",
+         {fill(accent, "T 42 M 40 76 H 60 C 61 86 54 92 50 102 C 46 92 39 86 40 76 Z"),
+          fill(soft, "T 42 M 36 46 C 24 54 18 66 20 84 L 38 74 Z M 64 46 C 76 54 82 66 80 84 L 62 74 Z"),
+          fill(main, "T 42 M 50 -4 C 70 12 73 42 64 76 C 63 78 61 79 59 79 H 41 C 39 79 37 78 36 76 C 27 42 30 "
+                     "12 50 -4 Z"),
+          fill(shade, "T 42 M 50 -4 C 70 12 73 42 64 76 C 63 78 61 79 59 79 H 50 Z"),
+          fill(detail, "T 42 O 50 36 9")}},
+        {"paper-plane",
+         {fill(soft, "M 40 60 L 44 90 L 58 70 Z"), solid(main, 3, "M 5 46 L 95 9 L 40 60 Z"),
+          solid(main, 3, "M 95 9 L 76 86 L 40 60 Z"), fill(shade, "M 96 8 L 76 88 L 40 60 Z")}},
+        {"bicycle",
+         {line(main, kMedium, "O 22 64 19 O 78 64 19"),
+          line(accent, kMedium, "M 22 64 L 37 36 H 63 L 49 64 H 22 M 33 28 L 49 64 M 78 64 L 62 28"),
+          line(main, kMedium, "M 26 28 H 40 M 54 25 L 62 28 H 72")}},
+        {"anchor",
+         {line(main, 7, "O 50 15 9"), line(main, kBold, "M 50 26 V 90 M 33 40 H 67"),
+          line(main, kBold, "M 12 60 C 14 80 30 91 50 91 C 70 91 86 80 88 60"),
+          solid(main, 4, "M 3 66 L 11 49 L 24 62 Z M 97 66 L 89 49 L 76 62 Z")}},
+        {"suitcase",
+         {line(main, 7, "M 35 28 V 20 C 35 15 38 12 43 12 H 57 C 62 12 65 15 65 20 V 28"),
+          fill(main, "R 5 27 90 62 13"),
+          fill(shade, "M 5 58 H 95 V 76 C 95 84 90 89 82 89 H 18 C 10 89 5 84 5 76 Z"),
+          line(detail, kFine, "M 5 58 H 95"), fill(accent, "R 42 50 16 17 4")}},
+        {"balloon",
+         {line(main, 2.5, "M 36 70 L 42 86 M 64 70 L 58 86"),
+          fill(main,
+               "M 50 2 C 74 2 88 18 88 37 C 88 54 72 62 63 74 H 37 C 28 62 12 54 12 37 C 12 18 26 2 50 2 Z"),
+          fill(accent,
+               "M 50 2 C 62 2 68 20 68 37 C 68 54 60 62 57 74 H 43 C 40 62 32 54 32 37 C 32 20 38 2 50 2 Z"),
+          fill(shade,
+               "M 50 2 C 74 2 88 18 88 37 C 88 54 72 62 63 74 H 57 C 60 62 68 54 68 37 C 68 20 62 2 50 2 Z"),
+          fill(soft, "R 40 83 20 15 4")}},
+        {"sailboat",
+         {fill(main, "M 54 4 C 76 24 86 46 86 66 H 54 Z"), fill(soft, "M 46 20 C 32 36 20 52 14 66 H 46 Z"),
+          fill(accent, "M 8 73 H 92 C 90 86 80 92 70 92 H 30 C 20 92 10 86 8 73 Z")}},
+    };
+}
+
+} // namespace tavrik::practice
