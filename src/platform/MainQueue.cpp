@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QThread>
 
+#include <future>
+#include <memory>
 #include <utility>
 
 namespace tavrik::MainQueue {
@@ -23,10 +25,21 @@ void async(QObject* context, std::function<void()> work) {
 
 void sync(std::function<void()> work) {
     QCoreApplication* const application = QCoreApplication::instance();
-    if (QThread::currentThread() == application->thread())
+    if (QThread::currentThread() == application->thread()) {
         work();
-    else
-        QMetaObject::invokeMethod(application, std::move(work), Qt::BlockingQueuedConnection);
+        return;
+    }
+    // Only the posted work holds the promise: should it be dropped with the application, the wait ends too.
+    auto promise = std::make_shared<std::promise<void>>();
+    const std::future<void> ran = promise->get_future();
+    QMetaObject::invokeMethod(
+        application,
+        [&work, promise = std::move(promise)] {
+            work();
+            promise->set_value();
+        },
+        Qt::QueuedConnection);
+    ran.wait();
 }
 
 } // namespace tavrik::MainQueue
