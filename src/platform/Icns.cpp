@@ -227,11 +227,12 @@ QImage decode(ByteView container, const Representation& representation) {
 }
 
 QImage largestImage(ByteView container) {
-    std::vector<Representation> all = representations(container);
-    std::ranges::stable_sort(all, std::greater(), &Representation::width);
-    for (const Representation& representation : all) {
-        if (QImage image = decode(container, representation); !image.isNull())
+    std::vector<Representation> left = representations(container);
+    while (!left.empty()) {
+        const auto widest = std::ranges::max_element(left, {}, &Representation::width); // the first of equals
+        if (QImage image = decode(container, *widest); !image.isNull())
             return image;
+        left.erase(widest);
     }
     return {};
 }
