@@ -1,5 +1,6 @@
 #include "platform/PropertyList.h"
 
+#include "platform/PropertyListBinary.h"
 #include "platform/PropertyListGuard.h"
 #include "platform/PropertyListXML.h"
 #include "platform/Utf8.h"
@@ -53,11 +54,6 @@ private:
     locale_t m_before;
 };
 
-void appendBigEndian(Bytes& bytes, std::uint64_t value) {
-    for (int shift = 56; shift >= 0; shift -= 8)
-        bytes.push_back(static_cast<std::uint8_t>(value >> shift));
-}
-
 /// The one object of a binary list with nothing else in it, marker first. It shows what libplist's getters
 /// round or leave out: all bits of a date, and whether an integer is signed.
 Bytes objectBytes(plist_t node) {
@@ -72,21 +68,6 @@ Bytes objectBytes(plist_t node) {
     return Bytes(begin + kBinaryMagic.size(), begin + size - rest);
 }
 
-/// The way back: a node that libplist's constructors cannot make.
-Node nodeOf(const Bytes& object) {
-    Bytes list(kBinaryMagic.begin(), kBinaryMagic.end());
-    list.insert(list.end(), object.begin(), object.end());
-    const std::uint64_t table = list.size();
-    list.push_back(static_cast<std::uint8_t>(kBinaryMagic.size()));
-    list.insert(list.end(), {0, 0, 0, 0, 0, 0, 1, 1}); // one byte for each offset and reference
-    appendBigEndian(list, 1);
-    appendBigEndian(list, 0);
-    appendBigEndian(list, table);
-    plist_t node = nullptr;
-    plist_from_bin(reinterpret_cast<const char*>(list.data()), static_cast<std::uint32_t>(list.size()), &node);
-    return Node(node);
-}
-
 std::uint64_t lastEightBytes(const Bytes& bytes) {
     std::uint64_t value = 0;
     for (std::size_t i = bytes.size() - std::min<std::size_t>(8, bytes.size()); i < bytes.size(); ++i)
@@ -97,9 +78,11 @@ std::uint64_t lastEightBytes(const Bytes& bytes) {
 std::optional<Value> integerOf(plist_t node) {
     std::uint64_t number = 0;
     plist_get_uint_val(node, &number);
-    constexpr std::uint8_t eightBytes = 0x13;
-    if (number > std::numeric_limits<std::int64_t>::max() && objectBytes(node).front() == eightBytes)
-        return Value(static_cast<std::int64_t>(number));
+    if (number > std::numeric_limits<std::int64_t>::max()) {
+        constexpr std::uint8_t eightBytes = 0x13; // signed, unlike sixteen
+        if (const Bytes object = objectBytes(node); !object.empty() && object.front() == eightBytes)
+            return Value(static_cast<std::int64_t>(number));
+    }
     return Value(number);
 }
 
@@ -191,78 +174,6 @@ std::optional<Value> valueOf(plist_t node, Format format) {
     }
 }
 
-bool isText(std::string_view text) {
-    return isUtf8(text) && text.find('\0') == std::string_view::npos;
-}
-
-/// libplist's node of a value and of all below it; null when the binary format or libplist cannot hold it.
-class NodeMaker {
-public:
-    Node make(const Value& value) const {
-        return std::visit([this](const auto& content) { return nodeFor(content); }, value.content());
-    }
-
-private:
-    Node nodeFor(const Dictionary& dictionary) const {
-        Node node(plist_new_dict());
-        for (const auto& [key, value] : dictionary) {
-            Node item = isText(key) ? make(value) : nullptr;
-            if (!item)
-                return nullptr;
-            plist_dict_set_item(node.get(), key.c_str(), item.release());
-        }
-        return node;
-    }
-
-    Node nodeFor(const Array& array) const {
-        Node node(plist_new_array());
-        for (const Value& value : array) {
-            Node item = make(value);
-            if (!item)
-                return nullptr;
-            plist_array_append_item(node.get(), item.release());
-        }
-        return node;
-    }
-
-    Node nodeFor(const std::string& text) const {
-        return Node(isText(text) ? plist_new_string(text.c_str()) : nullptr);
-    }
-
-    Node nodeFor(const Bytes& bytes) const {
-        return Node(plist_new_data(textOf(bytes).empty() ? "" : textOf(bytes).data(), bytes.size()));
-    }
-
-    Node nodeFor(Date date) const {
-        Bytes object{0x33};
-        appendBigEndian(object, std::bit_cast<std::uint64_t>(date.sinceReference));
-        return nodeOf(object);
-    }
-
-    Node nodeFor(bool flag) const { return Node(plist_new_bool(flag)); }
-
-    Node nodeFor(std::int64_t number) const {
-        if (number >= 0)
-            return Node(plist_new_uint(static_cast<std::uint64_t>(number)));
-        Bytes object{0x13};
-        appendBigEndian(object, static_cast<std::uint64_t>(number));
-        return nodeOf(object);
-    }
-
-    Node nodeFor(std::uint64_t number) const {
-        Bytes object{0x14};
-        appendBigEndian(object, 0);
-        appendBigEndian(object, number);
-        return nodeOf(object);
-    }
-
-    Node nodeFor(double number) const { return Node(plist_new_real(number)); }
-
-    Node nodeFor(UID uid) const {
-        return Node(uid.number <= 0xFFFF'FFFF ? plist_new_uid(uid.number) : nullptr);
-    }
-};
-
 /// Whether the value stays within the depth and the count, which are taken down on the way.
 bool fits(const Value& value, std::size_t depth, std::size_t& values) {
     if (values == 0)
@@ -293,12 +204,13 @@ Result<Value> parse(ByteView data, const Limits& limits) {
         return checked.error();
 
     plist_t root = nullptr;
+    const auto* text = reinterpret_cast<const char*>(data.data());
     const auto size = static_cast<std::uint32_t>(data.size());
     if (format == Format::binary) {
-        plist_from_bin(textOf(data).data(), size, &root);
+        plist_from_bin(text, size, &root);
     } else {
         const CLocale locale;
-        plist_from_xml(textOf(data).data(), size, &root);
+        plist_from_xml(text, size, &root);
     }
     const Node node(root);
     auto value = node ? valueOf(node.get(), format) : std::nullopt;
@@ -319,17 +231,7 @@ Result<Bytes> serialize(const Value& value, Format format, const Limits& limits)
         return Bytes(bytes.begin(), bytes.end());
     }
 
-    const Node node = NodeMaker().make(value);
-    if (!node)
-        return Error{"The property list holds a text that is not UTF-8 or holds NUL, or a UID above 32 bits"};
-    char* data = nullptr;
-    std::uint32_t size = 0;
-    plist_to_bin(node.get(), &data, &size);
-    const std::unique_ptr<char, FreeMemory> owner(data);
-    if (!data)
-        return Error{"The property list could not be written"};
-    const auto* begin = reinterpret_cast<const std::uint8_t*>(data);
-    return Bytes(begin, begin + size);
+    return toBinary(value);
 }
 
 } // namespace tavrik::plist

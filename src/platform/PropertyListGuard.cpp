@@ -46,12 +46,18 @@ public:
     Status checkAll() { return check(m_root, 1); }
 
 private:
+    struct Object {
+        int kind = 0;
+        bool isContainer = false;
+        ByteView payload;
+    };
+
     /// One object and all below it.
     Status check(std::uint64_t index, std::size_t depth) {
         const std::optional<Object> object = at(index);
         if (!object)
             return refusal("is damaged");
-        if (++m_values > m_limits.values || (m_bytes += object->payload.size()) > m_limits.bytes)
+        if (!takeIn(1, *object))
             return refusal("is too large");
         if (object->isContainer && depth > m_limits.depth)
             return refusal("is nested too deeply");
@@ -60,11 +66,12 @@ private:
         return checkChildren(*object, depth);
     }
 
-    struct Object {
-        int kind = 0;
-        bool isContainer = false;
-        ByteView payload;
-    };
+    /// False once it is too much.
+    bool takeIn(std::size_t values, const Object& object) {
+        m_values += values;
+        m_bytes += object.payload.size();
+        return m_values <= m_limits.values && m_bytes <= m_limits.bytes;
+    }
 
     Status checkChildren(const Object& container, std::size_t depth) {
         const std::size_t count = container.payload.size() / m_referenceSize;
@@ -76,7 +83,7 @@ private:
                 const std::optional<Object> key = at(index);
                 if (!key || (key->kind != 0x5 && key->kind != 0x6))
                     return refusal("is damaged");
-                if ((m_bytes += key->payload.size()) > m_limits.bytes)
+                if (!takeIn(0, *key))
                     return refusal("is too large");
             } else if (Status status = check(index, depth + 1); !status) {
                 return status;

@@ -101,7 +101,7 @@ private:
         std::string escaped;
         escaped.reserve(content.size());
         while (true) {
-            const auto* const special = std::ranges::find_if(content, [](char byte) {
+            const auto special = std::ranges::find_if(content, [](char byte) {
                 return static_cast<signed char>(byte) < 0x20 || byte == '&' || byte == '<' ||
                        byte == '>'; // negative outside ASCII
             });

@@ -33,7 +33,7 @@ std::optional<char32_t> takeCodePoint(std::string_view& text) {
 
 bool isUtf8(std::string_view text) {
     while (true) {
-        const auto* const ascii = std::ranges::find_if(text, [](char byte) { return (byte & 0x80) != 0; });
+        const auto ascii = std::ranges::find_if(text, [](char byte) { return (byte & 0x80) != 0; });
         text.remove_prefix(static_cast<std::size_t>(ascii - text.begin()));
         if (text.empty())
             return true;

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <bit>
+#include <clocale>
 #include <cmath>
 #include <limits>
 
@@ -93,6 +93,16 @@ TEST(PropertyList, ReadsNotANumber) {
         ASSERT_TRUE(read && read->as<double>());
         EXPECT_TRUE(std::isnan(*read->as<double>()));
     }
+}
+
+TEST(PropertyList, ReadsAndWritesRealsWithAPointInEveryLocale) {
+    const std::string before = setlocale(LC_NUMERIC, nullptr);
+    if (!setlocale(LC_NUMERIC, "de_DE.UTF-8"))
+        GTEST_SKIP() << "no locale with a decimal comma is installed";
+    const Result<Value> read = roundTrip(1.5, Format::xml);
+    setlocale(LC_NUMERIC, before.c_str());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(*read, Value(1.5));
 }
 
 TEST(PropertyList, WritesXMLAsTheMacDoes) {
@@ -212,6 +222,18 @@ TEST(PropertyList, SurvivesEveryChangedByte) {
         }
     }
     EXPECT_GT(refused, whole.size());
+}
+
+TEST(PropertyList, WritesEqualValuesOnceHoweverMany) {
+    const Array many(70'000, Bytes(1000, 'x'));
+    const Bytes list = *serialize(many, Format::binary);
+    EXPECT_LT(list.size(), many.size() + 1200);
+    EXPECT_EQ(*serialize(*parse(list), Format::binary), list);
+
+    Array rows; // more objects than two bytes count
+    for (int i = 0; i < 40'000; ++i)
+        rows.push_back(Array{i});
+    EXPECT_EQ(*roundTrip(rows, Format::binary), Value(rows));
 }
 
 TEST(PropertyList, KeepsTheDepthLimitBothWays) {
