@@ -12,6 +12,10 @@ namespace tavrik {
 class SettingsManager;
 struct Mac;
 
+namespace dock {
+class Tile;
+}
+
 /// An application tile of the Dock.
 struct DockApp {
     std::string bundleID;
@@ -45,6 +49,9 @@ public:
     /// The tiles that carry a bundle identifier, in Dock order.
     std::vector<DockApp> dockApps() const;
 
+    /// Renews the one-file backup beside the preferences. Preferences that cannot be parsed are not backed up,
+    /// so that a file cut by a failed write never replaces the last good copy; a kill leaves the old backup or
+    /// the new one.
     void backupDockPlist();
     std::optional<plist::Value> readDockPlist() const;
     /// In binary, over the file in one write: a failure in the middle may leave it cut, and the one-file backup
@@ -59,8 +66,14 @@ public:
     void forceDockSync();
 
 private:
+    dock::Tile findTile(std::optional<plist::Value>& dock, const std::string& bundleID) const;
+    bool keepFirstBookmark(const std::string& bundleID, const dock::Tile& tile);
+    void pointTile(dock::Tile& tile, const Bytes& bookmark, const MacPath& app) const;
+
     Mac& m_mac;
     SettingsManager& m_settings;
+    MacPath m_plistPath;
+    MacPath m_backupPath;
 };
 
 } // namespace tavrik

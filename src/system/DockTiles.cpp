@@ -1,0 +1,73 @@
+#include "system/DockTiles.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace tavrik::dock {
+
+namespace {
+
+template<typename T>
+const T* entry(const plist::Dictionary& data, std::string_view key) {
+    const auto found = data.find(key);
+    return found == data.end() ? nullptr : found->second.as<T>();
+}
+
+} // namespace
+
+const std::string* Tile::bundleID() const {
+    return entry<std::string>(*m_data, "bundle-identifier");
+}
+
+const Bytes* Tile::bookmark() const {
+    return entry<Bytes>(*m_data, "book");
+}
+
+void Tile::setBookmark(const Bytes& bookmark) {
+    m_data->insert_or_assign("book", bookmark);
+}
+
+void Tile::setURL(std::string_view url) {
+    plist::Value& fileData = (*m_data)["file-data"];
+    if (!fileData.as<plist::Dictionary>())
+        fileData = plist::Dictionary{};
+    fileData.as<plist::Dictionary>()->insert_or_assign("_CFURLString", url);
+}
+
+void Tile::setModified(Date date) {
+    m_data->insert_or_assign("file-mod-date", static_cast<std::int64_t>(std::floor(date.sinceReference)));
+}
+
+std::vector<Tile> appTiles(plist::Value& preferences) {
+    std::vector<Tile> tiles;
+    plist::Value* apps = preferences.find("persistent-apps");
+    if (!apps || !apps->as<plist::Array>())
+        return tiles;
+    for (plist::Value& app : *apps->as<plist::Array>()) {
+        plist::Value* data = app.find("tile-data");
+        if (!data || !data->as<plist::Dictionary>())
+            continue;
+        if (const Tile tile(*data->as<plist::Dictionary>()); tile.bundleID())
+            tiles.push_back(tile);
+    }
+    return tiles;
+}
+
+Tile findTile(plist::Value& preferences, std::string_view bundleID) {
+    for (const Tile& tile : appTiles(preferences)) {
+        if (*tile.bundleID() == bundleID)
+            return tile;
+    }
+    return {};
+}
+
+void raiseModCount(plist::Value& preferences) {
+    plist::Value* value = preferences.find("mod-count");
+    if (!value)
+        return;
+    if (auto* count = value->as<std::int64_t>(); count && *count < std::numeric_limits<std::int64_t>::max())
+        ++*count;
+}
+
+} // namespace tavrik::dock

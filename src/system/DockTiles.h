@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/Bytes.h"
+#include "platform/Date.h"
+#include "platform/PropertyList.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The application tiles within the Dock's preferences, read into memory. Real files hold spacers, tiles that
+/// scripts added, and dictionaries where numbers belong: nothing is used before its type was looked at. Pure;
+/// any thread.
+namespace tavrik::dock {
+
+/// The "tile-data" of one application tile, inside the preferences that it was found in; it must not outlive
+/// them. What is not set here stays as it was read.
+class Tile {
+public:
+    /// No tile.
+    Tile() = default;
+
+    explicit Tile(plist::Dictionary& data) : m_data(&data) {}
+
+    explicit operator bool() const { return m_data != nullptr; }
+
+    /// Null when it is missing or not of its type.
+    const std::string* bundleID() const;
+    const Bytes* bookmark() const;
+
+    void setBookmark(const Bytes& bookmark);
+    /// Makes the tile's "file-data" when it has none.
+    void setURL(std::string_view url);
+    /// In whole seconds, rounded down.
+    void setModified(Date date);
+
+private:
+    plist::Dictionary* m_data = nullptr;
+};
+
+/// The tiles of "persistent-apps" that carry a bundle identifier, in Dock order.
+std::vector<Tile> appTiles(plist::Value& preferences);
+
+/// The first of them with this identifier, else none.
+Tile findTile(plist::Value& preferences, std::string_view bundleID);
+
+/// Adds one to "mod-count" when that is an integer.
+void raiseModCount(plist::Value& preferences);
+
+} // namespace tavrik::dock
