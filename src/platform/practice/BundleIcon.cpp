@@ -63,7 +63,7 @@ QImage readIcon(const FileManager& files, const MacPath& file) {
     if (!bytes)
         return {};
     const QImage picture = icns::largestImage(*bytes);
-    return picture.isNull() ? QImage::fromData(bytes->data(), static_cast<int>(bytes->size())) : picture;
+    return picture.isNull() ? QImage::fromData(bytes->data(), static_cast<int>(bytes->size()), "PNG") : picture;
 }
 
 } // namespace

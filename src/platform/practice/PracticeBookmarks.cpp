@@ -1,6 +1,7 @@
 #include "platform/practice/PracticeBookmarks.h"
 
 #include "platform/FileManager.h"
+#include "platform/practice/Layout.h"
 
 #include <cerrno>
 #include <string_view>
@@ -58,8 +59,8 @@ Result<BookmarkTarget> describeForBookmark(const FileManager& files, const MacPa
         description.created = attributes->modified;
         description.isFolder = attributes->type == FileType::folder;
     }
-    if (description.components.size() > 2 && description.components[0] == "Users")
-        description.homeUser = description.components[1];
+    if (target != kHome && target.isInside(kHome))
+        description.homeUser = kHome.name();
     return description;
 }
 

@@ -1,4 +1,5 @@
 #include "platform/practice/AppleDouble.h"
+
 #include "platform/practice/ByteOrder.h"
 #include "platform/practice/ResourceFork.h"
 
@@ -131,13 +132,6 @@ TEST(AppleDouble, SurvivesEveryTruncationAndEveryFlippedBit) {
         for (const Resource& resource : resources ? *resources : std::vector<Resource>())
             EXPECT_LE(resource.data.size(), read->resourceFork.size()) << bit;
     }
-}
-
-TEST(AppleDouble, NamesTheCompanionBesideTheItem) {
-    EXPECT_EQ(companionOf(MacPath("/Applications/Atlas.app")), MacPath("/Applications/._Atlas.app"));
-    EXPECT_EQ(companionOf(MacPath("/Atlas.app")), MacPath("/._Atlas.app"));
-    EXPECT_TRUE(companionOf(MacPath("/")).empty());
-    EXPECT_TRUE(companionOf(MacPath("/Applications/._Atlas.app")).empty());
 }
 
 } // namespace tavrik::practice

@@ -1,5 +1,6 @@
-#include "RawBookmark.h"
 #include "platform/practice/BookmarkCodec.h"
+
+#include "platform/practice/ByteOrder.h"
 
 #include <QCryptographicHash>
 
@@ -9,8 +10,8 @@ namespace tavrik::practice {
 
 namespace {
 
-constexpr std::uint32_t kPath = 0x1004;
-constexpr std::uint32_t kVolumePath = 0x2002;
+constexpr std::size_t kPath = 0x1004;
+constexpr std::size_t kVolumePath = 0x2002;
 
 BookmarkTarget atlas() {
     return {.components = {"Applications", "Atlas.app"},
@@ -32,6 +33,73 @@ BookmarkTarget note() {
     target.homeUser = "ada";
     return target;
 }
+
+void appendNumbers(Bytes& bytes, const std::vector<std::size_t>& numbers) {
+    for (const std::size_t number : numbers)
+        appendLittle(bytes, static_cast<std::uint32_t>(number));
+}
+
+/// Builds bookmarks of shapes that the encoder never writes. What it adds is known by its offset.
+class RawBookmark {
+public:
+    std::size_t next() const { return m_data.size(); }
+
+    std::size_t record(std::size_t type, ByteView content) {
+        const std::size_t offset = next();
+        appendNumbers(m_data, {content.size(), type});
+        append(m_data, content);
+        m_data.resize((m_data.size() + 3) / 4 * 4);
+        return offset;
+    }
+
+    std::size_t text(std::string_view text) { return record(0x0101, bytesOf(text)); }
+
+    std::size_t array(const std::vector<std::size_t>& records) {
+        Bytes content;
+        appendNumbers(content, records);
+        return record(0x0601, content);
+    }
+
+    std::size_t path(const std::vector<std::string_view>& components) {
+        std::vector<std::size_t> records;
+        for (const std::string_view component : components)
+            records.push_back(text(component));
+        return array(records);
+    }
+
+    /// Entries are keys with their records.
+    std::size_t table(std::size_t id, std::size_t following,
+                      const std::vector<std::pair<std::size_t, std::size_t>>& entries) {
+        const std::size_t offset = next();
+        appendNumbers(m_data, {12 + 12 * entries.size(), 0xFFFFFFFE, id, following, entries.size()});
+        for (const auto& [key, record] : entries)
+            appendNumbers(m_data, {key, record, 0});
+        return offset;
+    }
+
+    Bytes bookmark(std::size_t firstTable, std::size_t headerSize = 48) const {
+        Bytes header(bytesOf("book").begin(), bytesOf("book").end());
+        appendNumbers(header, {headerSize + m_data.size(), 0x10050000, headerSize});
+        return afterHeader(header, headerSize, firstTable);
+    }
+
+    Bytes aliasFile(std::size_t firstTable) const {
+        const ByteView marks = bytesOf({"book\0\0\0\0mark\0\0\0\0", 16});
+        Bytes header(marks.begin(), marks.end());
+        appendNumbers(header, {56, 56, m_data.size(), 0x10040000});
+        return afterHeader(header, 56, firstTable);
+    }
+
+private:
+    Bytes afterHeader(Bytes whole, std::size_t headerSize, std::size_t firstTable) const {
+        whole.resize(headerSize);
+        appendNumbers(whole, {firstTable});
+        append(whole, ByteView(m_data).subspan(4));
+        return whole;
+    }
+
+    Bytes m_data = Bytes(4); // room for the first table's offset
+};
 
 std::string sha256(const Bytes& bytes) {
     const QByteArray data(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size()));
@@ -70,7 +138,7 @@ TEST(BookmarkDecoder, FindsThePathInEveryShapeThatMacsWrite) {
         RawBookmark two;
         const auto inner = two.path({"Safari.app"});
         const auto outer = two.path({"Wrong.app"});
-        const auto first = two.nextOffset();
+        const auto first = two.next();
         const auto second = first + 20 + 12;
         two.table(backwards ? 1 : 0xF000, backwards ? 0 : second, {{kPath, backwards ? inner : outer}});
         two.table(backwards ? 0xF000 : 1, backwards ? first : 0, {{kPath, backwards ? outer : inner}});
@@ -111,15 +179,15 @@ TEST(BookmarkDecoder, RefusesComponentsThatWouldLeadElsewhere) {
 
 TEST(BookmarkDecoder, RefusesLoopsAndWhatUnfolds) {
     RawBookmark loop;
-    const auto itself = loop.array({loop.nextOffset()});
+    const auto itself = loop.array({loop.next()});
     EXPECT_EQ(decoded(loop.bookmark(loop.table(1, 0, {{kPath, itself}}))), kDamaged) << "an array in itself";
 
     RawBookmark tables;
-    const auto table = tables.table(7, tables.nextOffset(), {});
+    const auto table = tables.table(7, tables.next(), {});
     EXPECT_EQ(decoded(tables.bookmark(table)), kDamaged) << "a table behind itself";
 
     RawBookmark repeated;
-    const std::vector<std::uint32_t> often(100'000, repeated.text(std::string(200, 'a')));
+    const std::vector<std::size_t> often(100'000, repeated.text(std::string(200, 'a')));
     const auto path = repeated.array(often);
     EXPECT_EQ(decoded(repeated.bookmark(repeated.table(1, 0, {{kPath, path}}))), kDamaged);
 }

@@ -1,5 +1,6 @@
-#include "platform/practice/AppleDouble.h"
 #include "platform/practice/CustomIcon.h"
+
+#include "platform/practice/AppleDouble.h"
 #include "platform/practice/PracticeFileManager.h"
 #include "platform/practice/ResourceFork.h"
 #include "support/FileTree.h"

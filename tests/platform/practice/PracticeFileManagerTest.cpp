@@ -1,4 +1,5 @@
 #include "platform/practice/PracticeFileManager.h"
+
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -72,14 +73,6 @@ TEST_F(PracticeFileManagerTest, LeavesCompanionsAloneWhenNothingIsDone) {
     EXPECT_EQ(at("/._a"), "/._a");
     EXPECT_EQ(at("/._b"), "/._b");
     EXPECT_EQ(at("/._gone"), "/._gone");
-}
-
-TEST_F(PracticeFileManagerTest, RemovesAFoldersOwnCompanionAndThoseInside) {
-    ASSERT_TRUE(m_files.createFolder(MacPath("/a/inner")));
-    for (const char* path : {"/._a", "/a/._inner", "/b"})
-        put(path, "x");
-    ASSERT_TRUE(m_files.remove(m_a));
-    EXPECT_THAT(allNames(), ElementsAre("b"));
 }
 
 } // namespace tavrik::practice
