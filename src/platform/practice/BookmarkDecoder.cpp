@@ -17,7 +17,7 @@ constexpr std::size_t kShortestAliasHeader = 32;
 /// A real bookmark has one table, or two; more than this is a loop.
 constexpr int kMostTables = 64;
 /// Bytes. Far above what a Mac opens; keeps a small bookmark from naming one text a million times.
-constexpr std::size_t kLongestPath = 16 * 1024;
+constexpr std::size_t kLongestPath = 16'384;
 
 Error damaged() {
     return Error{"The bookmark is damaged."};

@@ -116,11 +116,13 @@ Bytes encodeBookmark(const BookmarkTarget& target) {
     table[kOptionsKey] = records.int32(target.options);
 
     std::vector<std::uint32_t> components;
+    components.reserve(target.components.size());
     for (const std::string& component : target.components)
         components.push_back(records.text(component));
     table[kPathKey] = records.array(components);
 
     std::vector<std::uint32_t> fileIDs;
+    fileIDs.reserve(target.fileIDs.size());
     for (const std::uint64_t fileID : target.fileIDs)
         fileIDs.push_back(records.int64(fileID));
     table[kFileIDsKey] = records.array(fileIDs);

@@ -66,18 +66,17 @@ Status writeCompanion(FileManager& files, const MacPath& item, const AppleDouble
     return exists ? writeAtomically(files, companion, bytes) : files.create(companion, bytes);
 }
 
-/// The other resources of a fork; none when it is damaged.
-std::vector<Resource> resourcesBesidesIcon(ByteView fork) {
-    const auto resources = parseResourceFork(fork);
-    std::vector<Resource> others;
-    if (resources)
-        std::ranges::remove_copy_if(*resources, std::back_inserter(others), isIcon);
-    return others;
-}
-
-/// Puts an icon, or none when it is empty, into a fork and leaves the fork's other resources as they are.
+/// Puts an icon, or none when it is empty, into the fork and leaves its other resources as they are. A fork
+/// that cannot be read is left alone, since nobody knows what is in it.
 Status setIconResource(AppleDouble& companion, ByteView icns) {
-    std::vector<Resource> resources = resourcesBesidesIcon(companion.resourceFork);
+    std::vector<Resource> resources;
+    if (!companion.resourceFork.empty()) {
+        auto present = parseResourceFork(companion.resourceFork);
+        if (!present)
+            return present.error();
+        resources = std::move(*present);
+        std::erase_if(resources, isIcon);
+    }
     if (!icns.empty())
         resources.push_back({kIconType, kIconID, 0, std::nullopt, icns});
     if (resources.empty()) {
@@ -131,8 +130,8 @@ Status writeCustomIcon(FileManager& files, const MacPath& path, ByteView icns) {
     if (!companion)
         return companion.error();
 
-    const Status stored = isFolder(files, *item) ? writeIconFile(files, *item / kIconFile, icns)
-                                                 : setIconResource(*companion, icns);
+    Status stored = isFolder(files, *item) ? writeIconFile(files, *item / kIconFile, icns)
+                                           : setIconResource(*companion, icns);
     if (!stored)
         return stored;
     companion->finderInfo[kFlagsByte] |= kHasCustomIcon;

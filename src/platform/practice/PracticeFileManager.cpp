@@ -11,7 +11,7 @@ namespace {
 
 /// The companion when there is one.
 std::optional<MacPath> existingCompanion(const PosixFileManager& files, const MacPath& path) {
-    const MacPath companion = companionOf(path);
+    MacPath companion = companionOf(path);
     if (companion.empty() || !files.attributes(companion, Links::dontFollow))
         return std::nullopt;
     return companion;

@@ -84,6 +84,11 @@ TEST_F(CustomIcon, OfAPlainFileSharesItsCompanionWithWhatElseIsThere) {
     ASSERT_TRUE(removeCustomIcon(m_files, m_file));
     EXPECT_EQ(iconOf(m_file), std::nullopt);
     EXPECT_EQ(companion(m_file), earlier);
+
+    earlier.resourceFork = {1, 2, 3};
+    ASSERT_TRUE(m_files.write(companionOf(m_file), encodeAppleDouble(earlier)));
+    EXPECT_FALSE(writeCustomIcon(m_files, m_file, bytesOf("picture"))) << "a fork that cannot be read";
+    EXPECT_EQ(companion(m_file), earlier);
 }
 
 TEST_F(CustomIcon, GoesToWhatALinkLeadsTo) {
