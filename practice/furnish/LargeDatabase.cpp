@@ -5,8 +5,8 @@
 #include "practice/furnish/SampleApps.h"
 #include "practice/furnish/VolumeBookmarks.h"
 
-#include <array>
-#include <cstdio>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace tavrik::practice {
@@ -57,12 +57,11 @@ Status writeLargeDatabase(const HostPath& root, const HostPath& file, int rows, 
             page = builder.addPage();
         const std::size_t index = static_cast<std::size_t>(row) % sampleApps().size();
         const SampleApp& app = sampleApps()[index];
-        std::array<char, 16> number{};
-        std::snprintf(number.data(), number.size(), "%05d", row);
-        const std::string title = std::string(app.name) + " " + number.data();
-        builder.addApp(page, {style == TitleStyle::plain ? title : inBold(title),
-                              std::string("org.example.large.n") + number.data(), bookmarks[index],
-                              modifiedDate(app), app.category});
+        const std::string number = std::to_string(1'000'000 + row).substr(1);
+        const std::string title = app.name + (" " + number);
+        builder.addApp(page,
+                       {style == TitleStyle::plain ? title : inBold(title), "org.example.large.n" + number,
+                        bookmarks[index], modifiedDate(app), app.category});
     }
     return builder.finish();
 }

@@ -6,7 +6,7 @@
 namespace tavrik::practice {
 
 enum class TitleStyle {
-    plain,  ///< "Atlas 00017"
+    plain,  ///< "Atlas 000017"
     styled, ///< the same in a styled alphabet of four bytes a letter
 };
 

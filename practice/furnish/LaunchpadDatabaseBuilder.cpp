@@ -2,8 +2,6 @@
 
 #include "practice/furnish/LaunchpadSchema.h"
 
-#include <cstdio>
-
 namespace tavrik::practice {
 
 namespace {
@@ -29,6 +27,14 @@ void bindOptional(sqlite::Statement& statement, int parameter, const std::option
         statement.bindNull(parameter);
 }
 
+/// The lowest digits of a number.
+std::string hex(std::uint64_t number, int digits) {
+    std::string text;
+    for (int digit = digits - 1; digit >= 0; --digit)
+        text += "0123456789ABCDEF"[(number >> (4 * digit)) & 0xF];
+    return text;
+}
+
 /// Spreads consecutive numbers over 64 bits, so that the identifiers made of them look like any others.
 std::uint64_t scattered(std::uint64_t number) {
     number = (number + 0x9E3779B97F4A7C15u) * 0xBF58476D1CE4E5B9u;
@@ -45,7 +51,7 @@ LaunchpadDatabaseBuilder::LaunchpadDatabaseBuilder(const HostPath& file) {
         return;
     }
     // The journal mode cannot change inside a transaction. Nothing needs to survive a power cut before the end.
-    execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=OFF; BEGIN EXCLUSIVE TRANSACTION;");
+    execute("PRAGMA synchronous=OFF; PRAGMA journal_mode=WAL; BEGIN EXCLUSIVE TRANSACTION;");
     execute(kLaunchpadSchema);
     // While the switch stands at 1 the triggers leave the given places alone.
     execute("INSERT INTO dbinfo VALUES ('launchpad_root', '1');"
@@ -175,12 +181,9 @@ std::optional<std::int64_t> LaunchpadDatabaseBuilder::categoryRow(const std::str
 std::string LaunchpadDatabaseBuilder::nextUUID() {
     const std::uint64_t high = scattered(m_uuids++);
     const std::uint64_t low = scattered(~high);
-    char text[37];
-    std::snprintf(text, sizeof text, "%08X-%04X-4%03X-%04X-%012llX", static_cast<unsigned>(high >> 32),
-                  static_cast<unsigned>(high >> 16) & 0xFFFFu, static_cast<unsigned>(high) & 0xFFFu,
-                  (static_cast<unsigned>(low >> 48) & 0x3FFFu) | 0x8000u,
-                  static_cast<unsigned long long>(low & 0xFFFFFFFFFFFFu));
-    return text;
+    constexpr std::uint64_t kVariant = 0x8000;
+    return hex(high >> 32, 8) + "-" + hex(high >> 16, 4) + "-4" + hex(high, 3) + "-" +
+           hex(((low >> 48) & 0x3FFF) | kVariant, 4) + "-" + hex(low, 12);
 }
 
 void LaunchpadDatabaseBuilder::execute(const char* sql) {

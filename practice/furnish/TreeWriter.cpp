@@ -11,8 +11,10 @@ namespace tavrik::practice {
 TreeWriter::TreeWriter(HostPath root) : m_root(std::move(root)) {}
 
 void TreeWriter::folder(const MacPath& folder, mode_t mode) {
-    if (!failed())
-        note(createHostFolder(host(folder), mode));
+    if (failed() || m_folders.contains(folder))
+        return;
+    note(createHostFolder(host(folder), mode));
+    m_folders.insert(folder);
 }
 
 void TreeWriter::file(const MacPath& file, ByteView content, mode_t mode) {

@@ -8,6 +8,7 @@
 
 #include <sys/types.h>
 
+#include <set>
 #include <string>
 
 namespace tavrik::practice {
@@ -40,6 +41,7 @@ private:
     bool failed() const { return !m_status; }
 
     HostPath m_root;
+    std::set<MacPath> m_folders; ///< made so far
     Status m_status = Done{};
 };
 
