@@ -1,0 +1,217 @@
+#include "practice/furnish/Furnish.h"
+
+#include "practice/furnish/HostFiles.h"
+#include "support/FileTree.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <thread>
+
+namespace tavrik::practice {
+
+namespace {
+
+using test::differences;
+using test::treeOf;
+using testing::AnyOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr FurnishOptions kSmall{.largestIcon = 16};
+
+class Furnish : public testing::Test {
+protected:
+    static void write(const HostPath& file, std::string_view text) {
+        std::filesystem::create_directories(file.parent().string());
+        std::ofstream(file.string()) << text;
+    }
+
+    static std::string read(const HostPath& file) {
+        const auto content = readHostFile(file);
+        return content ? std::string(textOf(*content)) : "nothing";
+    }
+
+    /// What stands beside the programs' sources.
+    std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_place.path().string()))
+            names.push_back(entry.path().filename().string());
+        return names;
+    }
+
+    /// Runs in a process of its own, which is killed after so long unless it has ended.
+    static void runAndKill(const std::function<void()>& work, std::chrono::milliseconds after) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            work();
+            ::_exit(0);
+        }
+        ASSERT_GT(child, 0);
+        std::this_thread::sleep_for(after);
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    }
+
+    /// Paths of files that one Mac has and the other has not. Contents differ, since bookmarks hold file ids.
+    static std::vector<std::string> missingOrExtra(const HostPath& one, const HostPath& other) {
+        std::vector<std::string> lines = differences(treeOf(one), treeOf(other));
+        std::erase_if(lines, [](const std::string& line) { return line.starts_with("~"); });
+        return lines;
+    }
+
+    HostPath furnishedElsewhere() {
+        const HostPath other = m_sources.path() / "Other";
+        EXPECT_TRUE(furnish(other, m_programs, kSmall));
+        return other;
+    }
+
+    void SetUp() override {
+        write(m_programs.tool, "the tool");
+        write(m_programs.dock, "the dock");
+    }
+
+    test::TemporaryFolder m_sources;
+    test::TemporaryFolder m_place;
+    Programs m_programs{m_sources.path() / "tool", m_sources.path() / "dock"};
+    HostPath m_root = m_place.path() / "Mac";
+    HostPath m_letter = m_root / "Users/practice/Documents/letter.txt";
+};
+
+TEST_F(Furnish, TakesAMissingOrEmptyFolderAndRefusesAnyOther) {
+    ASSERT_TRUE(furnish(m_root, m_programs, kSmall));
+    std::filesystem::create_directories((m_place.path() / "Empty").string());
+    EXPECT_TRUE(furnish(m_place.path() / "Empty", m_programs, kSmall));
+    EXPECT_THAT(missingOrExtra(m_root, m_place.path() / "Empty"), IsEmpty());
+
+    write(m_place.path() / "Full/notes.txt", "mine");
+    const auto before = treeOf(m_place.path());
+    for (const auto& refused : {furnish(m_place.path() / "Full", m_programs, kSmall),
+                                furnishAnew(m_place.path() / "Full", m_programs, kSmall),
+                                furnish(m_place.path() / "Full/notes.txt", m_programs, kSmall)}) {
+        ASSERT_FALSE(refused);
+        EXPECT_THAT(refused.error().description, HasSubstr("is no practice Mac"));
+    }
+    EXPECT_FALSE(furnishAnew(m_place.path() / "Nowhere", m_programs, kSmall));
+    EXPECT_THAT(differences(before, treeOf(m_place.path())), IsEmpty());
+}
+
+TEST_F(Furnish, KeepsWhatAPersonChangedAndBringsOnlyProgramsUpToDate) {
+    ASSERT_TRUE(furnish(m_root, m_programs, kSmall));
+    write(m_letter, "Dear friend");
+    std::filesystem::remove((m_root / "serial-number").string());
+    std::filesystem::remove((m_root / "usr/bin/xattr").string());
+    std::ifstream running((m_root / "usr/bin/touch").string());
+    write(m_programs.tool, "a newer tool");
+    const auto before = treeOf(m_root);
+
+    ASSERT_TRUE(furnish(m_root, m_programs, kSmall));
+    EXPECT_THAT(differences(before, treeOf(m_root)),
+                ElementsAre("~ System/Library/Frameworks/CoreServices.framework/Frameworks/"
+                            "LaunchServices.framework/Support/lsregister",
+                            "~ bin/ln", "~ usr/bin/chflags", "~ usr/bin/defaults", "~ usr/bin/killall",
+                            "~ usr/bin/touch", "+ usr/bin/xattr"));
+    EXPECT_EQ(read(m_root / "usr/bin/xattr"), "a newer tool");
+    const std::string old(std::istreambuf_iterator<char>(running), {});
+    EXPECT_EQ(old, "the tool") << "a program that runs keeps its file";
+}
+
+TEST_F(Furnish, FailsWithoutATraceWhenAProgramIsMissing) {
+    EXPECT_FALSE(furnish(m_root, {m_sources.path() / "none", m_programs.dock}, kSmall));
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(Furnish, TwoProgramsAtOnceEndWithOneMac) {
+    std::vector<std::thread> threads;
+    std::vector<Status> outcomes(4, Error{});
+    for (Status& outcome : outcomes)
+        threads.emplace_back([&] { outcome = furnish(m_root, m_programs, kSmall); });
+    for (std::thread& thread : threads)
+        thread.join();
+    for (const Status& outcome : outcomes)
+        EXPECT_TRUE(outcome) << outcome.error().description;
+    EXPECT_THAT(names(), ElementsAre("Mac"));
+    EXPECT_THAT(missingOrExtra(furnishedElsewhere(), m_root), IsEmpty());
+}
+
+TEST_F(Furnish, AnewReplacesAMacAndKeepsTheOldOneOnFailure) {
+    ASSERT_TRUE(furnish(m_root, m_programs, kSmall));
+    write(m_letter, "Dear friend");
+    const auto before = treeOf(m_root);
+    EXPECT_FALSE(furnishAnew(m_root, {m_sources.path() / "none", m_programs.dock}, kSmall));
+    EXPECT_THAT(differences(before, treeOf(m_root)), IsEmpty());
+
+    ASSERT_TRUE(furnishAnew(m_root, m_programs, kSmall));
+    EXPECT_THAT(missingOrExtra(furnishedElsewhere(), m_root), IsEmpty());
+    EXPECT_THAT(names(), ElementsAre("Mac"));
+}
+
+TEST_F(Furnish, PutsRightWhatAKilledProgramLeft) {
+    const struct {
+        const char* stage;
+        bool hasMac;
+        bool hasSite;
+        bool hasPutAway;
+        const char* letter;
+    } cases[] = {
+        {"half a Mac was built", false, true, false, "nothing"},
+        {"a Mac stands and half a new one was built", true, true, false, "in the Mac"},
+        {"the old one was put away", false, true, true, "put away"},
+        {"the new one has its place and the old one is not gone", true, false, true, "in the Mac"},
+    };
+
+    const auto letterIn = [&](const HostPath& mac) {
+        return mac / m_letter.string().substr(m_root.string().size());
+    };
+    for (const auto& left : cases) {
+        const test::TemporaryFolder place;
+        const HostPath root = place.path() / "Mac";
+        const HostPath putAway = place.path() / ".Mac.put-away";
+        if (left.hasPutAway) {
+            ASSERT_TRUE(furnish(putAway, m_programs, kSmall));
+            write(letterIn(putAway), "put away");
+        }
+        if (left.hasMac) {
+            ASSERT_TRUE(furnish(root, m_programs, kSmall));
+            write(letterIn(root), "in the Mac");
+        }
+        if (left.hasSite)
+            write(place.path() / ".Mac.furnishing/Applications/half", "");
+
+        EXPECT_TRUE(furnish(root, m_programs, kSmall)) << left.stage;
+        EXPECT_EQ(read(letterIn(root)), left.letter) << left.stage;
+        EXPECT_TRUE(isPracticeMac(root)) << left.stage;
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(place.path().string()), {}), 1)
+            << left.stage;
+    }
+}
+
+TEST_F(Furnish, IsWholeAfterAKillAtAnyMoment) {
+    using namespace std::chrono_literals;
+    const HostPath whole = furnishedElsewhere();
+    for (auto delay = 0ms; delay <= 120ms; delay += 15ms) {
+        std::filesystem::remove_all(m_root.string());
+        runAndKill([&] { ignoreFailure(furnish(m_root, m_programs, kSmall)); }, delay);
+        ASSERT_TRUE(furnish(m_root, m_programs, kSmall)) << delay.count();
+        EXPECT_THAT(missingOrExtra(whole, m_root), IsEmpty()) << delay.count();
+        EXPECT_THAT(names(), ElementsAre("Mac")) << delay.count();
+
+        write(m_letter, "Dear friend");
+        runAndKill([&] { ignoreFailure(furnishAnew(m_root, m_programs, kSmall)); }, delay);
+        ASSERT_TRUE(furnish(m_root, m_programs, kSmall)) << delay.count();
+        EXPECT_THAT(missingOrExtra(whole, m_root),
+                    AnyOf(IsEmpty(), ElementsAre("+ Users/practice/Documents/letter.txt")));
+        EXPECT_THAT(names(), ElementsAre("Mac")) << delay.count();
+    }
+}
+
+} // namespace
+
+} // namespace tavrik::practice

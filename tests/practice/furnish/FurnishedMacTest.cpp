@@ -1,0 +1,178 @@
+#include "model/UnsupportedAppsManager.h"
+#include "platform/Bookmarks.h"
+#include "platform/FileManager.h"
+#include "platform/Icns.h"
+#include "platform/Mac.h"
+#include "platform/Machine.h"
+#include "platform/Volume.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeMac.h"
+#include "practice/furnish/Furnish.h"
+#include "practice/furnish/SampleApps.h"
+#include "support/practice/PracticeVolume.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace tavrik::practice {
+
+namespace {
+
+using test::LaunchpadItem;
+using test::PinnedTile;
+using test::PracticeVolume;
+using testing::ElementsAre;
+using testing::Not;
+
+class FurnishedMac : public testing::Test {
+protected:
+    Mac& mac() { return m_practiceMac.mac(); }
+
+    std::vector<LaunchpadItem> rowsOfType(int type) const {
+        std::vector<LaunchpadItem> rows = m_volume.launchpadItems();
+        std::erase_if(rows, [&](const LaunchpadItem& item) { return item.type != type; });
+        return rows;
+    }
+
+    /// What the bundle at a path says it is; empty when there is none.
+    std::string identifierAt(const MacPath& bundle) {
+        for (const char* place : {"Contents/Info.plist", "WrappedBundle/Info.plist"})
+            if (mac().files.exists(bundle / place))
+                if (const auto info = m_volume.propertyList(bundle / place);
+                    const auto* identifier = info.find<std::string>("CFBundleIdentifier"))
+                    return *identifier;
+        return "";
+    }
+
+    PracticeVolume m_volume;
+    PracticeMac m_practiceMac{m_volume.root()};
+};
+
+std::string trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+TEST_F(FurnishedMac, LaunchpadRowsLeadToBundlesThatAgreeButForOneThatIsGone) {
+    std::vector<std::string> leadNowhere;
+    std::set<MacPath> paths;
+    for (const LaunchpadItem& app : rowsOfType(4)) {
+        EXPECT_TRUE(paths.insert(app.path).second) << app;
+        EXPECT_EQ(app.title, app.path.stem());
+        const auto bundle = mac().files.attributes(app.path);
+        if (!bundle) {
+            leadNowhere.push_back(app.title);
+            continue;
+        }
+        EXPECT_EQ(identifierAt(app.path), trimmed(app.bundleID)) << app;
+    }
+    EXPECT_THAT(leadNowhere, ElementsAre("Windlass"));
+    EXPECT_GE(paths.size(), 40u);
+}
+
+TEST_F(FurnishedMac, HasPagesAndFoldersWhosePlacesAreDense) {
+    std::map<std::int64_t, std::vector<int>> places;
+    for (const LaunchpadItem& item : m_volume.launchpadItems())
+        places[item.parent].push_back(item.ordering);
+    for (auto& [parent, orderings] : places) {
+        std::ranges::sort(orderings);
+        for (std::size_t place = 0; place < orderings.size(); ++place)
+            EXPECT_EQ(orderings[place], static_cast<int>(place)) << "in " << parent;
+    }
+    EXPECT_GE(places[1].size(), 4u) << "the holding page and three others";
+    std::vector<std::string> folders;
+    for (const LaunchpadItem& folder : rowsOfType(2))
+        folders.push_back(folder.title);
+    EXPECT_THAT(folders, ElementsAre("Utilities", "Studio", "Under Way"));
+}
+
+TEST_F(FurnishedMac, HasARowForEachKindOfOddity) {
+    const UnsupportedAppsManager unsupported;
+    for (const std::string& bundleID : unsupported.unsupportedBundleIDs())
+        EXPECT_EQ(m_volume.appRows(bundleID).size(), 1u) << bundleID;
+
+    const std::vector<LaunchpadItem> apps = rowsOfType(4);
+    const auto isPlatforms = [](const LaunchpadItem& app) { return app.bundleID.starts_with("com.apple."); };
+    const std::pair<const char*, std::function<bool(const LaunchpadItem&)>> oddities[] = {
+        {"hidden, the platform's", [&](auto& app) { return app.flags == 128 && isPlatforms(app); }},
+        {"hidden, another maker's", [&](auto& app) { return app.flags == 128 && !isPlatforms(app); }},
+        {"without flags", [&](auto& app) { return !app.flags && isPlatforms(app); }},
+        {"blanks around the identifier", [](auto& app) { return app.bundleID != trimmed(app.bundleID); }},
+        {"a second bundle", [&](auto& app) { return m_volume.appRows(app.bundleID).size() == 2; }},
+        {"of a telephone", [&](auto& app) { return mac().files.exists(app.path / "Wrapper"); }},
+        {"outside the standard folders", [](auto& app) { return app.path.isInside(MacPath("/opt")); }},
+        {"in the home", [](auto& app) { return app.path.isInside(kHome / "Applications"); }},
+    };
+    for (const auto& [name, isOne] : oddities)
+        EXPECT_TRUE(std::ranges::any_of(apps, isOne)) << name;
+}
+
+TEST_F(FurnishedMac, DrawsEveryIconThatABundleNames) {
+    std::map<BundleIcon, int> kinds;
+    for (const SampleApp& app : sampleApps()) {
+        EXPECT_THAT(glyphNames(), testing::Contains(app.glyph));
+        ++kinds[app.icon];
+        const MacPath resources = bundlePath(app) / "Contents/Resources";
+        const auto names = app.isIOSApp ? std::vector<std::string>() : *mac().files.list(resources);
+        const bool hasFile = app.icon != BundleIcon::none && app.icon != BundleIcon::catalogueOnly;
+        const auto file = std::ranges::find_if(names, [](auto& name) { return name.ends_with(".icns"); });
+        ASSERT_EQ(file != names.end(), hasFile) << app.name;
+        if (hasFile) {
+            EXPECT_EQ(icns::largestImage(*mac().files.read(resources / *file)).width(), 32) << app.name;
+        }
+    }
+    EXPECT_EQ(kinds.size(), 5u) << "every way of naming an icon occurs";
+}
+
+TEST_F(FurnishedMac, DockTilesAgreeWithTheirBundles) {
+    constexpr double kReferenceSince1904 = 3'061'152'000;
+    std::vector<PinnedTile> apps = m_volume.pinnedTiles();
+    EXPECT_EQ(std::erase_if(apps, [](const PinnedTile& tile) { return tile.bundleID.empty(); }), 1u)
+        << "a spacer";
+    EXPECT_EQ(apps.size(), 10u);
+    for (const PinnedTile& tile : apps) {
+        EXPECT_EQ(identifierAt(tile.path), tile.bundleID) << tile;
+        EXPECT_EQ(tile.url, mac().bookmarks.fileURL(tile.path)) << tile;
+    }
+
+    const plist::Value preferences = m_volume.dockPreferences();
+    EXPECT_NE(preferences.find<std::int64_t>("mod-count"), nullptr);
+    std::set<std::int64_t> numbers;
+    for (const char* section : {"persistent-apps", "persistent-others", "recent-apps"})
+        for (const plist::Value& tile : *preferences.find<plist::Array>(section)) {
+            EXPECT_TRUE(numbers.insert(*tile.find<std::int64_t>("GUID")).second);
+            const plist::Value& data = *tile.find("tile-data");
+            const auto* bookmark = data.find<Bytes>("book");
+            if (!bookmark)
+                continue;
+            const auto target = mac().bookmarks.resolve(*bookmark);
+            ASSERT_TRUE(target) << target.error().description;
+            const auto seconds = *data.find<std::int64_t>("file-mod-date") & 0xFFFF'FFFF;
+            if (data.find("bundle-identifier")) {
+                EXPECT_EQ(static_cast<double>(seconds) - kReferenceSince1904,
+                          mac().files.attributes(*target)->modified.sinceReference);
+            } else {
+                EXPECT_EQ(*target, kHome / "Downloads");
+            }
+        }
+}
+
+TEST_F(FurnishedMac, AnswersForItselfThroughThePorts) {
+    EXPECT_EQ(mac().machine.systemVersion().major, 14);
+    EXPECT_THAT(mac().machine.serialNumber(), testing::Optional(Not(testing::IsEmpty())));
+    EXPECT_TRUE(mac().files.exists(MacPath(mac().volume.temporaryFolder())));
+
+    const auto note = mac().files.read(mac().volume.resource("Warning.rtf"));
+    ASSERT_TRUE(note);
+    const std::string_view text = textOf(*note);
+    EXPECT_TRUE(text.starts_with("{\\rtf1"));
+    EXPECT_EQ(std::ranges::count(text, '{'), std::ranges::count(text, '}'));
+}
+
+} // namespace
+
+} // namespace tavrik::practice
