@@ -98,23 +98,6 @@ TEST(AppleDouble, KeepsExtendedAttributesAndWritesABlankFork) {
     EXPECT_FALSE(content.isEmpty());
 }
 
-TEST(AppleDouble, ReadsItsPartsInAnyOrder) {
-    Bytes file;
-    appendBig(file, std::uint32_t{0x00051607});
-    appendBig(file, std::uint32_t{0x00020000});
-    file.resize(24);
-    appendBig(file, std::uint16_t{3});
-    for (const std::uint32_t number : {2u, 62u, 4u, 3u, 66u, 0u, 9u, 66u, 32u})
-        appendBig(file, number);
-    append(file, bytesOf("fork"));
-    file.resize(98, 0x11);
-
-    const auto read = decodeAppleDouble(file);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->resourceFork, bytes("fork"));
-    EXPECT_EQ(read->finderInfo, Bytes(32, 0x11));
-}
-
 TEST(AppleDouble, SurvivesEveryTruncationAndEveryFlippedBit) {
     AppleDouble content;
     content.resourceFork = variedFork();

@@ -18,7 +18,7 @@ protected:
         EXPECT_TRUE(m_files.write(MacPath(path), bytesOf(content))) << path;
     }
 
-    /// What a path's companion holds, "-" for none.
+    /// What a file holds, "-" for none.
     std::string at(const char* path) {
         const auto content = m_files.read(MacPath(path));
         return content ? std::string(textOf(*content)) : "-";
@@ -73,6 +73,12 @@ TEST_F(PracticeFileManagerTest, LeavesCompanionsAloneWhenNothingIsDone) {
     EXPECT_EQ(at("/._a"), "/._a");
     EXPECT_EQ(at("/._b"), "/._b");
     EXPECT_EQ(at("/._gone"), "/._gone");
+
+    // Long enough that there is room for the file but not for its companion.
+    const MacPath tooLong("/" + std::string(254, 'n'));
+    EXPECT_FALSE(m_files.copy(m_a, tooLong));
+    EXPECT_FALSE(m_files.move(m_a, tooLong));
+    EXPECT_THAT(allNames(), ElementsAre("._a", "._b", "._gone", "a", "b"));
 }
 
 } // namespace tavrik::practice
