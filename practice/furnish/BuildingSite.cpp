@@ -64,7 +64,7 @@ Status BuildingSite::clear() const {
         if (Status removed = removeHostTree(HostPath(entry.path().string())); !removed)
             return removed;
     if (failure)
-        return Error{"Cannot list " + m_folder.string() + ": " + failure.message(), failure.value()};
+        return hostError("list", m_folder, failure);
     return Done{};
 }
 

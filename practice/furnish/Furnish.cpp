@@ -7,6 +7,7 @@
 #include "practice/furnish/InstalledPrograms.h"
 #include "practice/furnish/MachineFiles.h"
 #include "practice/furnish/ProgramBundle.h"
+#include "practice/furnish/ProgramIcon.h"
 #include "practice/furnish/SampleApps.h"
 #include "practice/furnish/SampleDock.h"
 #include "practice/furnish/SampleLaunchpad.h"

@@ -8,7 +8,6 @@
 #include <array>
 #include <cerrno>
 #include <cmath>
-#include <cstring>
 #include <filesystem>
 #include <utility>
 
@@ -16,61 +15,35 @@ namespace tavrik::practice {
 
 namespace {
 
-class Descriptor {
-public:
-    explicit Descriptor(int number) : m_number(number) {}
-
-    ~Descriptor() {
-        if (m_number >= 0)
-            ::close(m_number);
-    }
-
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return m_number; }
-
-    bool closes() { return ::close(std::exchange(m_number, -1)) == 0; }
-
-private:
-    int m_number;
-};
-
-bool writeAll(int descriptor, ByteView content) {
-    while (!content.empty()) {
-        const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written < 0)
-            return false;
-        content = content.subspan(static_cast<std::size_t>(written));
-    }
-    return true;
+FileDescriptor openForLock(const HostPath& path) {
+    return FileDescriptor::open(AT_FDCWD, path.string(), O_RDONLY | O_NOFOLLOW);
 }
 
-int openForLock(const HostPath& path) {
-    return ::open(path.string().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+/// 0 when the lock was taken.
+int lock(const FileDescriptor& descriptor, int operation) {
+    int outcome = 0;
+    do
+        outcome = ::flock(descriptor.number(), operation);
+    while (outcome != 0 && errno == EINTR);
+    return outcome;
 }
 
 } // namespace
 
-Error hostError(const char* action, const HostPath& path) {
-    const int code = errno;
-    return {std::string("Cannot ") + action + " " + path.string() + ": " + std::strerror(code), code};
+Error hostError(const char* action, const HostPath& path, std::error_code failure) {
+    return {std::string("Cannot ") + action + " " + path.string() + ": " + failure.message(), failure.value()};
 }
 
 Result<Bytes> readHostFile(const HostPath& file) {
-    const Descriptor descriptor(::open(file.string().c_str(), O_RDONLY | O_CLOEXEC));
-    if (descriptor.number() < 0)
-        return hostError("open", file);
+    FileDescriptor descriptor = FileDescriptor::open(AT_FDCWD, file.string(), O_RDONLY);
+    if (!descriptor)
+        return hostError("open", file, lastError());
     Bytes content;
     std::array<std::uint8_t, 65536> chunk;
     for (;;) {
-        const ssize_t got = ::read(descriptor.number(), chunk.data(), chunk.size());
-        if (got < 0 && errno == EINTR)
-            continue;
+        const ssize_t got = descriptor.read(chunk);
         if (got < 0)
-            return hostError("read", file);
+            return hostError("read", file, lastError());
         if (got == 0)
             return content;
         content.insert(content.end(), chunk.begin(), chunk.begin() + got);
@@ -78,22 +51,26 @@ Result<Bytes> readHostFile(const HostPath& file) {
 }
 
 Status createHostFile(const HostPath& file, ByteView content, mode_t mode) {
-    Descriptor descriptor(
-        ::open(file.string().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
-    if (descriptor.number() < 0)
-        return hostError("make", file);
-    if (::fchmod(descriptor.number(), mode) == 0 && writeAll(descriptor.number(), content) &&
-        descriptor.closes())
+    FileDescriptor descriptor =
+        FileDescriptor::open(AT_FDCWD, file.string(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+    if (!descriptor)
+        return hostError("make", file, lastError());
+    std::error_code failure = ::fchmod(descriptor.number(), mode) == 0 ? std::error_code() : lastError();
+    if (!failure)
+        failure = descriptor.writeAll(content);
+    if (!failure)
+        failure = descriptor.close();
+    if (!failure)
         return Done{};
-    const Error error = hostError("write", file);
     ::unlink(file.string().c_str());
-    return error;
+    return hostError("write", file, failure);
 }
 
 Status createHostFolder(const HostPath& folder, mode_t mode) {
     if (::mkdir(folder.string().c_str(), mode) == 0)
-        return ::chmod(folder.string().c_str(), mode) == 0 ? Status(Done{})
-                                                           : hostError("set the rights of", folder);
+        return ::chmod(folder.string().c_str(), mode) == 0
+                   ? Status(Done{})
+                   : hostError("set the rights of", folder, lastError());
     if (errno == ENOENT && folder.parent() != folder && !folder.parent().empty()) {
         if (Status above = createHostFolder(folder.parent(), mode); !above)
             return above;
@@ -105,7 +82,7 @@ Status createHostFolder(const HostPath& folder, mode_t mode) {
             return Done{};
         errno = ENOTDIR;
     }
-    return hostError("make the folder", folder);
+    return hostError("make the folder", folder, lastError());
 }
 
 Status removeHostTree(const HostPath& path) {
@@ -113,13 +90,13 @@ Status removeHostTree(const HostPath& path) {
     std::filesystem::remove_all(path.string(), failure);
     if (!failure)
         return Done{};
-    return Error{"Cannot remove " + path.string() + ": " + failure.message(), failure.value()};
+    return hostError("remove", path, failure);
 }
 
 Status renameHost(const HostPath& from, const HostPath& to) {
     if (::rename(from.string().c_str(), to.string().c_str()) == 0)
         return Done{};
-    return hostError("rename", from);
+    return hostError("rename", from, lastError());
 }
 
 Status setHostDate(const HostPath& path, Date date) {
@@ -130,45 +107,29 @@ Status setHostDate(const HostPath& path, Date date) {
     const std::array<timespec, 2> times{time, time};
     if (::utimensat(AT_FDCWD, path.string().c_str(), times.data(), AT_SYMLINK_NOFOLLOW) == 0)
         return Done{};
-    return hostError("date", path);
+    return hostError("date", path, lastError());
 }
 
 Result<HostLock> HostLock::take(const HostPath& path) {
-    HostLock lock(openForLock(path));
-    if (lock.m_descriptor < 0)
-        return hostError("open", path);
-    int locked = 0;
-    do
-        locked = ::flock(lock.m_descriptor, LOCK_EX);
-    while (locked != 0 && errno == EINTR);
-    if (locked != 0)
-        return hostError("lock", path);
-    return lock;
+    FileDescriptor descriptor = openForLock(path);
+    if (!descriptor)
+        return hostError("open", path, lastError());
+    if (lock(descriptor, LOCK_EX) != 0)
+        return hostError("lock", path, lastError());
+    return HostLock(std::move(descriptor));
 }
 
 std::optional<HostLock> HostLock::tryTake(const HostPath& path) {
-    HostLock lock(openForLock(path));
-    if (lock.m_descriptor < 0 || ::flock(lock.m_descriptor, LOCK_EX | LOCK_NB) != 0)
+    FileDescriptor descriptor = openForLock(path);
+    if (!descriptor || lock(descriptor, LOCK_EX | LOCK_NB) != 0)
         return std::nullopt;
-    return lock;
-}
-
-HostLock::HostLock(HostLock&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
-
-HostLock& HostLock::operator=(HostLock&& other) noexcept {
-    std::swap(m_descriptor, other.m_descriptor);
-    return *this;
-}
-
-HostLock::~HostLock() {
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
+    return HostLock(std::move(descriptor));
 }
 
 bool HostLock::holds(const HostPath& path) const {
     struct stat mine{};
     struct stat there{};
-    return ::fstat(m_descriptor, &mine) == 0 && ::lstat(path.string().c_str(), &there) == 0 &&
+    return ::fstat(m_descriptor.number(), &mine) == 0 && ::lstat(path.string().c_str(), &there) == 0 &&
            mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
 }
 

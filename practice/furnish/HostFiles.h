@@ -2,12 +2,15 @@
 
 #include "platform/Bytes.h"
 #include "platform/Date.h"
+#include "platform/FileDescriptor.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
 #include <sys/types.h>
 
 #include <optional>
+#include <system_error>
+#include <utility>
 
 /// Plain files of the host, for building a volume from outside. Failures carry errno and name the path. Nothing
 /// is flushed: a furnished Mac can be furnished again.
@@ -26,8 +29,8 @@ Status removeHostTree(const HostPath& path);
 
 Status renameHost(const HostPath& from, const HostPath& to);
 
-/// The error of a failed call on a path, from errno.
-Error hostError(const char* action, const HostPath& path);
+/// The error of a failed call on a path.
+Error hostError(const char* action, const HostPath& path, std::error_code failure);
 
 /// The moment of last change in whole and broken seconds; the path itself, should it be a link.
 Status setHostDate(const HostPath& path, Date date);
@@ -40,17 +43,13 @@ public:
     /// Nothing when another holds it or the path cannot be opened.
     static std::optional<HostLock> tryTake(const HostPath& path);
 
-    HostLock(HostLock&& other) noexcept;
-    HostLock& operator=(HostLock&& other) noexcept;
-    ~HostLock();
-
     /// Whether the locked thing still stands at this path.
     bool holds(const HostPath& path) const;
 
 private:
-    explicit HostLock(int descriptor) : m_descriptor(descriptor) {}
+    explicit HostLock(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}
 
-    int m_descriptor = -1;
+    FileDescriptor m_descriptor;
 };
 
 } // namespace tavrik::practice

@@ -61,8 +61,6 @@ Status install(const HostPath& root, const std::vector<MacPath>& places, const B
                 return made;
         if (Status renamed = renameHost(fresh, file); !renamed)
             return renamed;
-        // Renaming one of a file's names onto another does nothing and leaves both.
-        ignoreFailure(removeHostTree(fresh));
     }
     return Done{};
 }
@@ -79,6 +77,8 @@ Status installPrograms(const HostPath& root, const Programs& programs, const Hos
         const Result<HostLock> turn = HostLock::take(lock);
         if (!turn)
             return turn.error();
+        if (areCurrent(root, installation.places, *content)) // made so by another program meanwhile
+            continue;
         if (Status installed = install(root, installation.places, *content); !installed)
             return installed;
     }

@@ -3,8 +3,6 @@
 #include "platform/Date.h"
 #include "practice/furnish/TreeWriter.h"
 
-#include <QImage>
-
 namespace tavrik::practice {
 
 /// Writes the program's own bundle, with its icon file and the note that goes into the folder of the wrappers.
@@ -15,10 +13,6 @@ Date programModifiedDate();
 
 inline constexpr const char* kProgramName = "Tavrik";
 inline constexpr const char* kProgramCategory = "public.app-category.utilities";
-
-/// The program's icon: a plain tile whose corner turns over and shows the colours beneath. 16 to 1024 pixels,
-/// ARGB32 premultiplied. Pure; any thread.
-QImage drawProgramIcon(int size);
 
 /// A rich text that greets who opens the folder of the wrappers.
 extern const char* const kWarningText;

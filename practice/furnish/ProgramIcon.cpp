@@ -1,4 +1,4 @@
-#include "practice/furnish/ProgramBundle.h"
+#include "practice/furnish/ProgramIcon.h"
 
 #include <QColor>
 #include <QLinearGradient>

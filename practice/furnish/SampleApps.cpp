@@ -104,7 +104,7 @@ constexpr SampleApp kTable[] = {
     {"Marginalia", "org.example.marginalia", kHomeApps, 3, "", kReference, "0.8", kSquircle, 0xCDB4DB, 0x7B5EA7, "bookmark"},
     {"Samphire", "net.example.samphire", kHomeApps, 3, "", kMusic, "3.7", kFree, 0x80ED99, 0x22577A, "guitar", BundleIcon::namedWithExtension},
     {"Breakwater", "com.example.harbour.breakwater", Place::elsewhere, 3, "", kDeveloper, "1.0", kSquircle, 0x90A4AE, 0x37474F, "shield"},
-    {"Tidewater Helper", "net.example.tidewater.helper", kApps, 3, "", kUtility, "1.0", kSquircle, 0x76C7C0, 0x2E6F75, "drop", BundleIcon::named, RowKind::hidden},
+    {"Tidewater Helper", "net.example.tidewater.helper", kApps, 0, "", kUtility, "1.0", kSquircle, 0x76C7C0, 0x2E6F75, "drop", BundleIcon::named, RowKind::hidden},
 };
 // clang-format on
 

@@ -36,7 +36,7 @@ void TreeWriter::propertyList(const MacPath& file, const plist::Value& value, pl
 void TreeWriter::link(const MacPath& link, const std::string& target) {
     folder(link.parent());
     if (!failed() && ::symlink(target.c_str(), host(link).string().c_str()) != 0)
-        note(hostError("make the link", host(link)));
+        note(hostError("make the link", host(link), lastError()));
 }
 
 void TreeWriter::date(const MacPath& path, Date modified) {
