@@ -223,15 +223,10 @@ Result<Bytes> serialize(const Value& value, Format format, const Limits& limits)
     std::size_t values = limits.values;
     if (!fits(value, limits.depth, values))
         return Error{"The property list is nested too deeply or too large"};
-    if (format == Format::xml) {
-        const Result<std::string> text = toXML(value);
-        if (!text)
-            return text.error();
-        const ByteView bytes = bytesOf(*text);
-        return Bytes(bytes.begin(), bytes.end());
-    }
-
-    return toBinary(value);
+    Result<Bytes> list = format == Format::xml ? toXML(value) : toBinary(value);
+    if (list && list->size() > limits.bytes)
+        return Error{"The property list is too large"};
+    return list;
 }
 
 } // namespace tavrik::plist

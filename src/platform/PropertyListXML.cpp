@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 #include <variant>
 
 namespace tavrik::plist {
@@ -151,13 +150,14 @@ private:
 
 } // namespace
 
-Result<std::string> toXML(const Value& value) {
+Result<Bytes> toXML(const Value& value) {
     Writer writer;
     if (!writer.write(value))
         return Error{
             "The property list holds what XML cannot: control characters, damaged text or a date far off"};
     writer.text += "</plist>\n";
-    return std::move(writer.text);
+    const ByteView bytes = bytesOf(writer.text);
+    return Bytes(bytes.begin(), bytes.end());
 }
 
 } // namespace tavrik::plist
