@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FileDescriptor.h"
+#include "platform/Path.h"
+
+#include <optional>
+
+namespace tavrik::practice {
+
+/// An advisory lock on a file, held by an open descriptor: it goes with the object, and with the process
+/// however that ends. The file stays. Two locks exclude each other within one process too. Children do not
+/// inherit it.
+class FileLock {
+public:
+    enum class Wait { no, yes };
+
+    /// Makes the file when missing; its folder must exist. Nothing when that fails, or when somebody else holds
+    /// the lock and no wait is wanted.
+    static std::optional<FileLock> take(const HostPath& file, Wait wait);
+
+    /// Whether somebody holds the lock of a file. False also when there is no such file.
+    static bool isHeld(const HostPath& file);
+
+private:
+    explicit FileLock(FileDescriptor file) : m_file(std::move(file)) {}
+
+    FileDescriptor m_file;
+};
+
+} // namespace tavrik::practice
