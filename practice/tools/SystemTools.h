@@ -24,8 +24,12 @@ struct ToolAnswer {
     std::string errors;
 };
 
+/// The paths of all tools.
+std::vector<MacPath> systemTools();
+
 /// Runs the tool that stands at this path of the Mac and notes the call in the volume's journal. 127 for a path
-/// that is no tool.
+/// that is no tool. Tools of one volume take turns, those of other processes too, so that each reads and writes
+/// the volume's state as a whole; none waits for anything else.
 ToolAnswer runSystemTool(const ToolSurroundings& surroundings, const MacPath& tool,
                          const std::vector<std::string>& arguments);
 
