@@ -1,0 +1,230 @@
+#include "practice/dock/Dock.h"
+
+#include "platform/PathRules.h"
+#include "platform/Sqlite.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeFileManager.h"
+#include "platform/practice/PropertyListFile.h"
+#include "practice/tools/SystemTools.h"
+#include "support/practice/PracticeVolume.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+
+namespace tavrik::practice {
+namespace {
+
+using test::LaunchpadItem;
+using test::PracticeVolume;
+using ::testing::SizeIs;
+
+const MacPath kWrappers = kHome / "Applications/Tavrik";
+constexpr const char* kIdentifier = "org.example.ferrule";
+
+struct DockTest : testing::Test {
+    /// A bundle like the program's own: links to the contents of another application.
+    MacPath addWrapper(const std::string& name) {
+        const MacPath wrapper = kWrappers / (name + ".app");
+        EXPECT_TRUE(files.createFolder(wrapper));
+        EXPECT_TRUE(files.createLink(wrapper / "Contents", "/Applications/Ferrule.app/Contents"));
+        registerBundle("-f", wrapper);
+        return wrapper;
+    }
+
+    void registerBundle(const char* option, const MacPath& path) {
+        EXPECT_EQ(
+            runSystemTool({volume.root(), {}, {}}, kLaunchServicesTool, {option, path.string()}).exitStatus, 0);
+    }
+
+    std::optional<LaunchpadItem> rowOf(const MacPath& path) const {
+        const auto rows = volume.launchpadItems();
+        const auto row = std::ranges::find(rows, path, &LaunchpadItem::path);
+        return row == rows.end() ? std::nullopt : std::optional(*row);
+    }
+
+    std::vector<std::int32_t> orderingsIn(std::int64_t parent) const {
+        std::vector<std::int32_t> orderings;
+        for (const LaunchpadItem& item : volume.launchpadItems())
+            if (item.parent == parent)
+                orderings.push_back(item.ordering);
+        std::ranges::sort(orderings);
+        return orderings;
+    }
+
+    std::int64_t number(const std::string& sql) const {
+        auto connection = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+        auto statement = connection->prepare(sql);
+        return statement.step() == sqlite::Step::row ? statement.int64(0).value_or(-1) : -1;
+    }
+
+    bool stands(const char* suffix) const {
+        return std::filesystem::exists(volume.launchpadDatabase().string() + suffix);
+    }
+
+    PracticeVolume volume;
+    PracticeFileManager files{volume.root()};
+};
+
+TEST_F(DockTest, IndexesAWrapperAtTheEndOfTheLastPageAndMovesNobody) {
+    const auto before = volume.launchpadItems();
+    const MacPath wrapper = addWrapper("Ferrule");
+    Dock dock(volume.root());
+    EXPECT_EQ(rowOf(wrapper), std::nullopt);
+    ASSERT_TRUE(dock.index());
+
+    const auto row = rowOf(wrapper);
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->title, "Ferrule");
+    EXPECT_EQ(row->bundleID, kIdentifier);
+    EXPECT_EQ(row->flags, 0);
+    const auto lastPage =
+        number("SELECT rowid FROM items WHERE type = 3 AND parent_id = 1 ORDER BY ordering DESC LIMIT 1");
+    EXPECT_EQ(row->parent, lastPage);
+    EXPECT_EQ(row->ordering, orderingsIn(lastPage).size() - 1) << "the page's places must stay dense from 0";
+    auto after = volume.launchpadItems();
+    std::erase(after, *row);
+    EXPECT_EQ(after, before);
+
+    EXPECT_EQ(number("SELECT CAST(value AS INTEGER) FROM dbinfo WHERE key = 'ignore_items_update_triggers'"),
+              0);
+    EXPECT_EQ(number("SELECT COUNT(*) FROM image_cache WHERE item_id = " + std::to_string(row->row)), 1);
+    const auto modified = files.attributes(wrapper)->modified.sinceReference;
+    EXPECT_EQ(number("SELECT CAST(moddate AS INTEGER) FROM apps WHERE item_id = " + std::to_string(row->row)),
+              static_cast<std::int64_t>(modified));
+
+    ASSERT_TRUE(dock.index());
+    EXPECT_THAT(volume.launchpadItems(), SizeIs(before.size() + 1)) << "one row for each path";
+}
+
+TEST_F(DockTest, FillsPagesOfThirtyFiveAndMakesNewOnes) {
+    for (int i = 0; i < 80; ++i)
+        addWrapper("Copy " + std::to_string(i));
+    const auto pagesBefore = number("SELECT COUNT(*) FROM items WHERE type = 3 AND parent_id = 1");
+    ASSERT_TRUE(Dock(volume.root()).index());
+
+    std::map<std::int64_t, std::size_t> filled;
+    for (const LaunchpadItem& item : volume.launchpadItems())
+        if (item.path.isInside(kWrappers))
+            ++filled[item.parent];
+    ASSERT_GE(filled.size(), 3u);
+    for (const auto& [page, count] : filled) {
+        const auto orderings = orderingsIn(page);
+        EXPECT_LE(orderings.size(), 35u);
+        EXPECT_EQ(orderings.front(), 0) << "page " << page;
+        EXPECT_EQ(orderings.back(), static_cast<int>(orderings.size()) - 1) << "page " << page;
+    }
+    const auto pages = orderingsIn(1);
+    EXPECT_EQ(pages.size(), static_cast<std::size_t>(pagesBefore) + filled.size() - 1);
+    EXPECT_EQ(std::ranges::adjacent_find(pages), pages.end());
+    EXPECT_EQ(number("SELECT COUNT(*) FROM items i JOIN groups g ON g.item_id = i.rowid WHERE i.type = 3 AND "
+                     "i.parent_id = 1"),
+              static_cast<std::int64_t>(pages.size()));
+}
+
+TEST_F(DockTest, RemovesRowsOfRegisteredBundlesThatAreGoneAndNoOthers) {
+    const MacPath wrapper = addWrapper("Ferrule");
+    const MacPath kept = addWrapper("Kept");
+    ASSERT_TRUE(Dock(volume.root()).index());
+    const auto before = volume.launchpadItems();
+    ASSERT_TRUE(files.remove(wrapper));
+
+    const Dock dock(volume.root());
+    EXPECT_EQ(rowOf(wrapper), std::nullopt);
+    const auto row = rowOf(kept);
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->ordering, orderingsIn(row->parent).size() - 1) << "the gap must close";
+    EXPECT_THAT(volume.launchpadItems(), SizeIs(before.size() - 1)) << "dead bookmarks of others stay";
+}
+
+TEST_F(DockTest, TriesAgainWhileSomebodyElseWrites) {
+    const MacPath gone = addWrapper("Gone");
+    ASSERT_TRUE(Dock(volume.root()).index());
+    ASSERT_TRUE(files.remove(gone));
+    const MacPath wrapper = addWrapper("Ferrule");
+
+    auto writer = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+    ASSERT_TRUE(writer->execute("BEGIN IMMEDIATE TRANSACTION"));
+    Dock dock(volume.root());
+    EXPECT_FALSE(dock.index());
+    EXPECT_TRUE(rowOf(gone)) << "nothing may change behind a writer's back";
+    ASSERT_TRUE(writer->execute("COMMIT"));
+    EXPECT_TRUE(dock.index());
+    EXPECT_FALSE(rowOf(gone));
+    EXPECT_TRUE(rowOf(wrapper));
+}
+
+TEST_F(DockTest, IndexesWithTheTriggersAtWorkWhateverACrashLeft) {
+    auto writer = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+    ASSERT_TRUE(writer->execute("UPDATE dbinfo SET value='1' WHERE key='ignore_items_update_triggers'"));
+    const MacPath wrapper = addWrapper("Ferrule");
+    ASSERT_TRUE(Dock(volume.root()).index());
+    EXPECT_GE(rowOf(wrapper)->ordering, 0);
+    EXPECT_EQ(number("SELECT CAST(value AS INTEGER) FROM dbinfo WHERE key = 'ignore_items_update_triggers'"),
+              0);
+}
+
+TEST_F(DockTest, IndexesOnlyBundlesThatStandAreRegisteredAndOnlyWhenItIndexes) {
+    const auto before = volume.launchpadItems();
+    registerBundle("-u", addWrapper("Unregistered"));
+    const MacPath dangling = addWrapper("Dangling");
+    ASSERT_TRUE(files.remove(dangling / "Contents"));
+    ASSERT_TRUE(Dock(volume.root()).index());
+    EXPECT_EQ(volume.launchpadItems(), before);
+
+    addWrapper("Ferrule");
+    ASSERT_TRUE(writeDockBehaviour(volume.root(), {.indexes = false}));
+    EXPECT_TRUE(Dock(volume.root()).index());
+    EXPECT_EQ(volume.launchpadItems(), before);
+}
+
+TEST_F(DockTest, LeavesTheWriteAheadLogWhenKilledAndNoneWhenItQuits) {
+    const MacPath wrapper = addWrapper("Ferrule");
+    {
+        Dock dock(volume.root());
+        ASSERT_TRUE(dock.index());
+        EXPECT_TRUE(stands("-wal") && stands("-shm"));
+    }
+    EXPECT_TRUE(stands("-wal"));
+    Dock dock(volume.root());
+    dock.quit();
+    EXPECT_FALSE(stands("-wal") || stands("-shm"));
+    EXPECT_TRUE(rowOf(wrapper)) << "what was committed must survive the kill";
+}
+
+TEST_F(DockTest, WritesItsCopyOfThePreferencesOnlyWhenItQuits) {
+    const MacPath file = dockPreferencesPath(kHome);
+    const plist::Value original = volume.dockPreferences();
+    const plist::Value changed(plist::Dictionary{{"autohide", true}});
+    {
+        const Dock dock(volume.root());
+        ASSERT_TRUE(writePropertyList(files, file, changed));
+    }
+    EXPECT_EQ(volume.dockPreferences(), changed) << "a killed Dock writes nothing";
+
+    ASSERT_TRUE(writePropertyList(files, file, original));
+    Dock dock(volume.root());
+    ASSERT_TRUE(writePropertyList(files, file, changed));
+    dock.quit();
+    plist::Value expected = original;
+    expected.as<plist::Dictionary>()->at("mod-count") = *original.find<std::int64_t>("mod-count") + 1;
+    EXPECT_EQ(volume.dockPreferences(), expected);
+}
+
+TEST_F(DockTest, WaitsForAMissingDatabaseAndMakesNone) {
+    const HostPath database = volume.launchpadDatabase();
+    const std::string aside = database.string() + ".aside";
+    std::filesystem::rename(database.string(), aside);
+    const MacPath wrapper = addWrapper("Ferrule");
+    Dock dock(volume.root());
+    EXPECT_FALSE(dock.index());
+    EXPECT_FALSE(stands(""));
+    std::filesystem::rename(aside, database.string());
+    EXPECT_TRUE(dock.index());
+    EXPECT_TRUE(rowOf(wrapper));
+}
+
+} // namespace
+} // namespace tavrik::practice

@@ -1,0 +1,230 @@
+#include "practice/tools/SystemTools.h"
+
+#include "platform/practice/CustomIcon.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeFileManager.h"
+#include "platform/practice/PropertyListFile.h"
+#include "practice/process/ProcessRecord.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tavrik::practice {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+
+constexpr Date kNow{794'000'000.25};
+
+struct SystemToolsTest : testing::Test {
+    SystemToolsTest() {
+        EXPECT_TRUE(files.createFolder(MacPath("/Applications/Atlas.app/Contents")));
+        EXPECT_TRUE(files.create(MacPath("/Applications/Atlas.app/Contents/Info.plist"), {}));
+    }
+
+    ToolAnswer run(const std::string& tool, const std::vector<std::string>& arguments) {
+        return runSystemTool({folder.path(), kNow,
+                              [this](const std::string& name, int signal) {
+                                  signals.emplace_back(name, signal);
+                                  return name == "Dock" ? 1 : 0;
+                              }},
+                             MacPath(tool), arguments);
+    }
+
+    std::vector<std::string> listed(const MacPath& list) {
+        std::vector<std::string> paths;
+        if (const auto content = readPropertyList(files, list); content && *content)
+            for (const plist::Value& path : *(*content)->as<plist::Array>())
+                paths.push_back(*path.as<std::string>());
+        return paths;
+    }
+
+    test::TemporaryFolder folder;
+    PracticeFileManager files{folder.path()};
+    std::vector<std::pair<std::string, int>> signals;
+};
+
+TEST_F(SystemToolsTest, AnswersFailuresAsTheMacDoes) {
+    struct Case {
+        std::string tool;
+        std::vector<std::string> arguments;
+        int exitStatus;
+        std::string errors;
+    };
+
+    const std::string info = "com.apple.FinderInfo";
+    const std::string hidden = std::string(58, '0') + "0C0000";
+    const Case cases[] = {
+        {"/usr/bin/touch", {"/no/where"}, 1, "touch: /no/where: No such file or directory\n"},
+        {"/usr/bin/touch", {}, 1, "usage: touch"},
+        {"/usr/bin/killall", {"Finder"}, 1, "No matching processes belonging to you were found\n"},
+        {"/usr/bin/killall", {"-NONE", "Dock"}, 1, "usage: killall"},
+        {"/usr/bin/killall", {"-HUP"}, 1, "usage: killall"},
+        {"/usr/bin/chflags", {"hidden", "/no"}, 1, "chflags: /no: No such file or directory\n"},
+        {"/usr/bin/chflags", {"x", "/Applications"}, 1, "chflags: invalid flag: x\n"},
+        {"/bin/ln",
+         {"-s", "/a", "/Applications/Atlas.app/Contents/Info.plist"},
+         1,
+         "ln: /Applications/Atlas.app/Contents/Info.plist: File exists\n"},
+        {"/bin/ln", {"/a", "/b"}, 1, "usage: ln"},
+        {"/usr/bin/xattr",
+         {"-w", info, hidden, "/Applications"},
+         1,
+         "xattr: [Errno 34] Result too large: '/Applications'\n"},
+        {"/usr/bin/xattr",
+         {"-w", info, hidden, "/no"},
+         1,
+         "xattr: [Errno 2] No such file or directory: '/no'\n"},
+        {"/usr/bin/xattr", {"-wx", info, "0g", "/Applications"}, 1, "non-hexadecimal"},
+        {"/usr/bin/xattr", {"-w", "other", "x", "/Applications"}, 1, "[Errno 45] Operation not supported"},
+        {"/usr/bin/xattr",
+         {"-p", info, "/Applications"},
+         1,
+         "xattr: /Applications: No such xattr: com.apple.FinderInfo\n"},
+        {kLaunchServicesTool.string(),
+         {"-f", "/Applications"},
+         1,
+         "failed to scan /Applications: error -10811"},
+        {kLaunchServicesTool.string(), {}, 1, "lsregister: [OPTIONS] [ <path>... ]"},
+        {"/usr/bin/make", {}, 127, "command not found"},
+    };
+    for (const Case& each : cases) {
+        const ToolAnswer answer = run(each.tool, each.arguments);
+        EXPECT_EQ(answer.exitStatus, each.exitStatus) << each.tool << " " << each.errors;
+        EXPECT_THAT(answer.errors, HasSubstr(each.errors)) << each.tool;
+        EXPECT_EQ(answer.output, "");
+    }
+}
+
+TEST_F(SystemToolsTest, TouchMakesAFileAndDatesWhatIsThereWithoutChangingIt) {
+    const MacPath old("/Applications/old");
+    ASSERT_TRUE(files.write(old, bytesOf("content")));
+    ASSERT_TRUE(files.setModified(old, Date{1}));
+    EXPECT_EQ(run("/usr/bin/touch", {old.string(), "/Applications/new", "/Applications/Atlas.app"}).exitStatus,
+              0);
+    EXPECT_EQ(textOf(*files.read(old)), "content");
+    for (const char* path : {"/Applications/old", "/Applications/new", "/Applications/Atlas.app"})
+        EXPECT_EQ(files.attributes(MacPath(path))->modified, kNow) << path;
+}
+
+TEST_F(SystemToolsTest, KillallSendsTheSignalThatItIsTold) {
+    EXPECT_EQ(run("/usr/bin/killall", {"Dock"}).exitStatus, 0);
+    EXPECT_EQ(run("/usr/bin/killall", {"-HUP", "Dock"}).exitStatus, 0);
+    EXPECT_EQ(run("/usr/bin/killall", {"-SIGKILL", "Dock"}).exitStatus, 0);
+    EXPECT_EQ(run("/usr/bin/killall", {"-9", "Dock", "Finder"}).exitStatus, 0);
+    EXPECT_THAT(signals, ElementsAre(Pair("Dock", SIGTERM), Pair("Dock", SIGHUP), Pair("Dock", SIGKILL),
+                                     Pair("Dock", SIGKILL), Pair("Finder", SIGKILL)));
+}
+
+TEST_F(SystemToolsTest, ChflagsKeepsEachHiddenPathOnceWhileItIsThere) {
+    ASSERT_TRUE(files.createFolder(MacPath("/brief")));
+    for (const char* path : {"/Applications", "/brief", "/Applications/"})
+        EXPECT_EQ(run("/usr/bin/chflags", {"hidden", path}).exitStatus, 0);
+    EXPECT_THAT(listed(kHiddenPaths), ElementsAre("/Applications", "/brief"));
+    ASSERT_TRUE(files.remove(MacPath("/brief")));
+    EXPECT_EQ(run("/usr/bin/chflags", {"nohidden", "/Applications"}).exitStatus, 0);
+    EXPECT_THAT(listed(kHiddenPaths), IsEmpty());
+}
+
+TEST_F(SystemToolsTest, LsregisterKeepsBundlesInOrderWithoutRepeats) {
+    const std::string tool = kLaunchServicesTool.string();
+    const MacPath wrapper("/Applications/Wrapper.app");
+    ASSERT_TRUE(files.createFolder(wrapper));
+    EXPECT_EQ(run("/bin/ln", {"-s", "/Applications/Atlas.app/Contents", wrapper.string()}).exitStatus, 0);
+    EXPECT_EQ(*files.readLink(wrapper / "Contents"), "/Applications/Atlas.app/Contents");
+    for (const char* path :
+         {"/Applications/Wrapper.app", "/Applications/Atlas.app", "/Applications/Wrapper.app"})
+        EXPECT_EQ(run(tool, {"-f", path}).exitStatus, 0);
+    EXPECT_THAT(listed(kRegisteredBundles),
+                ElementsAre("/Applications/Wrapper.app", "/Applications/Atlas.app"));
+    EXPECT_EQ(run(tool, {"-u", "/Applications/Wrapper.app"}).exitStatus, 0);
+    EXPECT_EQ(run(tool, {"-u", "/Applications/Wrapper.app"}).exitStatus, 1);
+    EXPECT_THAT(listed(kRegisteredBundles), ElementsAre("/Applications/Atlas.app"));
+}
+
+TEST_F(SystemToolsTest, LsregisterLeavesADamagedListAlone) {
+    ASSERT_TRUE(files.createFolder(kStateFolder));
+    ASSERT_TRUE(files.write(kRegisteredBundles, bytesOf("bplist00 cut")));
+    EXPECT_EQ(run(kLaunchServicesTool.string(), {"-f", "/Applications/Atlas.app"}).exitStatus, 1);
+    EXPECT_EQ(textOf(*files.read(kRegisteredBundles)), "bplist00 cut");
+}
+
+TEST_F(SystemToolsTest, XattrKeepsFinderInfoOfThirtyTwoBytes) {
+    const MacPath app("/Applications/Atlas.app");
+    const std::string value = std::string(16, '0') + "04" + std::string(46, '0');
+    EXPECT_EQ(run("/usr/bin/xattr", {"-wx", "com.apple.FinderInfo", value, app.string()}).exitStatus, 0);
+    const auto info = readFinderInfo(files, app);
+    ASSERT_TRUE(info);
+    EXPECT_EQ(info->at(8), 0x04);
+    EXPECT_THAT(run("/usr/bin/xattr", {"-px", "com.apple.FinderInfo", app.string()}).output,
+                HasSubstr("00 00 00 00 00 00 00 00 04 00"));
+    EXPECT_EQ(run("/usr/bin/xattr", {"-d", "com.apple.FinderInfo", app.string()}).exitStatus, 0);
+    EXPECT_FALSE(readFinderInfo(files, app));
+}
+
+TEST_F(SystemToolsTest, NotesEachCallInTheJournal) {
+    run("/usr/bin/killall", {"-HUP", "Dock"});
+    run("/usr/bin/touch", {"/no/where\nat all"});
+    EXPECT_EQ(textOf(*files.read(kToolJournal)), "794000000.250\t/usr/bin/killall\t-HUP\tDock\n"
+                                                 "794000000.250\t/usr/bin/touch\t/no/where at all\n");
+}
+
+/// A child that records itself on a volume as a Dock, if it is to, and waits for a signal.
+pid_t startChild(const HostPath& root, bool claims) {
+    int ready[2];
+    EXPECT_EQ(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const auto record = claims ? ProcessRecord::claim(root, "Dock") : std::nullopt;
+        ::close(ready[1]);
+        ::pause();
+        ::_exit(0);
+    }
+    ::close(ready[1]);
+    char byte = 0;
+    EXPECT_EQ(::read(ready[0], &byte, 1), 0);
+    ::close(ready[0]);
+    return child;
+}
+
+TEST(ProcessRecord, NamesOnlyLiveProcessesOfItsVolumeAndCleansUpAfterTheDead) {
+    const test::TemporaryFolder one;
+    const test::TemporaryFolder other;
+    const pid_t ours = startChild(one.path(), true);
+    const pid_t theirs = startChild(other.path(), true);
+    const pid_t stranger = startChild(one.path(), false);
+    const HostPath folder = one.path() / kProcessFolder.string();
+    const auto fileOf = [&](pid_t number) { return (folder / ("Dock." + std::to_string(number))).string(); };
+    // As a dead Dock leaves it, whose number a stranger was given since.
+    std::ofstream(fileOf(stranger)).flush();
+    std::ofstream(fileOf(1)).flush();
+    std::ofstream(folder.string() + "/Dock.12x").flush();
+
+    EXPECT_THAT(liveProcesses(one.path(), "Dock"), ElementsAre(ours));
+    EXPECT_FALSE(std::filesystem::exists(fileOf(stranger)));
+    EXPECT_THAT(liveProcesses(one.path(), "Doc"), IsEmpty());
+    EXPECT_EQ(signalProcesses(one.path(), "Dock", SIGTERM), 1);
+
+    int status = 0;
+    EXPECT_EQ(::waitpid(ours, &status, 0), ours);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_THAT(liveProcesses(one.path(), "Dock"), IsEmpty());
+    EXPECT_FALSE(std::filesystem::exists(fileOf(ours)));
+    for (const pid_t spared : {theirs, stranger}) {
+        EXPECT_EQ(::waitpid(spared, &status, WNOHANG), 0) << "must still live";
+        ::kill(spared, SIGKILL);
+        ::waitpid(spared, &status, 0);
+    }
+}
+
+} // namespace
+} // namespace tavrik::practice
