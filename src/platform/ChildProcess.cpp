@@ -30,8 +30,8 @@ constexpr milliseconds kLongestRun = std::chrono::hours(24);
 /// How often an end is looked for while something else than the child may hold its outputs open.
 constexpr milliseconds kLookAgain{20};
 constexpr microseconds kFirstPause{100};
-constexpr std::size_t kBlock = 64 * 1024;         // bytes
-constexpr std::size_t kMostInAPipe = 1024 * 1024; // bytes
+constexpr std::size_t kBlock = 64u << 10;      // bytes
+constexpr std::size_t kMostInAPipe = 1u << 20; // bytes
 
 /// One output of the child: the end that we read, the end that the child writes, and what came.
 class Output {
@@ -116,6 +116,7 @@ public:
         std::vector<std::string> texts{program};
         texts.insert(texts.end(), arguments.begin(), arguments.end());
         std::vector<char*> pointers;
+        pointers.reserve(texts.size() + 1);
         for (std::string& text : texts)
             pointers.push_back(text.data());
         pointers.push_back(nullptr);

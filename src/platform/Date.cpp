@@ -31,11 +31,12 @@ std::string isoText(Date date) {
     const std::chrono::year_month_day calendar{day};
     const std::chrono::hh_mm_ss clock{time - day};
     std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(calendar.year()),
-                  static_cast<unsigned>(calendar.month()), static_cast<unsigned>(calendar.day()),
-                  static_cast<int>(clock.hours().count()), static_cast<int>(clock.minutes().count()),
-                  static_cast<int>(clock.seconds().count()));
-    return text.data();
+    const int length =
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ",
+                      static_cast<int>(calendar.year()), static_cast<unsigned>(calendar.month()),
+                      static_cast<unsigned>(calendar.day()), static_cast<int>(clock.hours().count()),
+                      static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
+    return {text.data(), static_cast<std::size_t>(length)};
 }
 
 } // namespace tavrik

@@ -1,5 +1,7 @@
 #include "platform/Log.h"
 
+#include "platform/Result.h"
+
 #include <algorithm>
 #include <mutex>
 #include <utility>
@@ -29,9 +31,9 @@ void log(std::string_view line) {
     LogStream& to = logStream();
     const std::lock_guard lock(to.mutex);
     if (to.stream) {
-        std::fwrite(line.data(), 1, line.size(), to.stream);
-        std::fputc('\n', to.stream);
-        std::fflush(to.stream);
+        const bool printed = std::fwrite(line.data(), 1, line.size(), to.stream) == line.size() &&
+                             std::fputc('\n', to.stream) != EOF && std::fflush(to.stream) == 0;
+        ignoreFailure(printed);
     }
     for (const LogListener* listener : to.listeners)
         listener->m_heard(line);

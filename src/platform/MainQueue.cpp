@@ -32,13 +32,10 @@ void sync(std::function<void()> work) {
     // Only the posted work holds the promise: should it be dropped with the application, the wait ends too.
     auto promise = std::make_shared<std::promise<void>>();
     const std::future<void> ran = promise->get_future();
-    QMetaObject::invokeMethod(
-        application,
-        [&work, promise = std::move(promise)] {
-            work();
-            promise->set_value();
-        },
-        Qt::QueuedConnection);
+    async(application, [&work, promise = std::move(promise)] {
+        work();
+        promise->set_value();
+    });
     ran.wait();
 }
 

@@ -12,16 +12,19 @@
 namespace tavrik {
 
 OpenFolder OpenFolder::open(int folder, const std::string& path, int extraFlags) {
+    OpenFolder opened;
     FileDescriptor descriptor = FileDescriptor::open(folder, path, O_RDONLY | O_DIRECTORY | extraFlags);
     if (!descriptor)
-        return OpenFolder(nullptr);
-    DIR* const stream = ::fdopendir(descriptor.number());
-    if (stream)
-        descriptor.release();
-    return OpenFolder(stream);
+        return opened;
+    opened.m_stream = ::fdopendir(descriptor.number());
+    if (opened.m_stream)
+        opened.m_number = descriptor.release();
+    return opened;
 }
 
-OpenFolder::OpenFolder(OpenFolder&& other) noexcept : m_stream(std::exchange(other.m_stream, nullptr)) {}
+OpenFolder::OpenFolder(OpenFolder&& other) noexcept
+    : m_stream(std::exchange(other.m_stream, nullptr)),
+      m_number(std::exchange(other.m_number, -1)) {}
 
 OpenFolder::~OpenFolder() {
     if (m_stream)

@@ -22,15 +22,16 @@ public:
 
     explicit operator bool() const { return m_stream != nullptr; }
 
-    int number() const { return ::dirfd(m_stream); }
+    int number() const { return m_number; }
 
     /// The names in it, without "." and "..", in byte order.
     [[nodiscard]] std::error_code list(std::vector<std::string>& names);
 
 private:
-    explicit OpenFolder(DIR* stream) : m_stream(stream) {}
+    OpenFolder() = default;
 
     DIR* m_stream = nullptr;
+    int m_number = -1; // owned by the stream
 };
 
 } // namespace tavrik

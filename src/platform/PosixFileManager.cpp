@@ -108,7 +108,7 @@ Status PosixFileManager::copy(const MacPath& from, const MacPath& to) {
         failed = renameExclusively(unfinished, *target);
     if (!failed)
         return Done{};
-    static_cast<void>(removeTree(AT_FDCWD, unfinished));
+    ignoreFailure(!removeTree(AT_FDCWD, unfinished));
     return failure(to, failed);
 }
 

@@ -18,7 +18,7 @@ namespace tavrik {
 
 namespace {
 
-constexpr std::size_t kCopyBlock = 256 * 1024; // bytes
+constexpr std::size_t kCopyBlock = 256u << 10; // bytes
 
 std::error_code statusOf(int folder, const std::string& name, struct stat& status) {
     return ::fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 ? std::error_code() : lastError();

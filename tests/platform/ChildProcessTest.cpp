@@ -102,7 +102,7 @@ TEST(ChildProcess, KillsWhatDoesNotEndInTimeWithAllThatItStarted) {
 
 TEST(ChildProcess, DoesNotWaitForAGrandchildThatKeepsTheOutputsOpen) {
     const auto start = steady_clock::now();
-    const auto result = shell("sleep 30 & echo $!; exit 4");
+    const auto result = shell("sleep 30 & echo $!; sleep 0.1; exit 4");
     ASSERT_TRUE(result);
     EXPECT_EQ(result->exitStatus, 4);
     EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(10));
