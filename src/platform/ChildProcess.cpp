@@ -42,8 +42,7 @@ public:
             return lastError();
         FileDescriptor reading(ends[0]);
         FileDescriptor writing(ends[1]);
-        // Numbers above the three standard ones, so that giving the child its own three overwrites none of
-        // them.
+        // Above the three standard numbers, so that giving the child its own three overwrites none of these.
         m_reading = FileDescriptor(::fcntl(reading.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
         m_writing = FileDescriptor(::fcntl(writing.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
         if (!m_reading || !m_writing || ::fcntl(m_reading.number(), F_SETFL, O_NONBLOCK) != 0)

@@ -9,8 +9,8 @@ namespace tavrik {
 /// The one way to the main thread. Works need a running event loop of the application object.
 namespace MainQueue {
 
-/// Runs the work later on the main thread, in the order of posting; dropped when `context` is gone by then. Any
-/// thread.
+/// Runs the work later on the main thread, in the order of posting; dropped when `context` is gone by then, or
+/// null. The context must be alive during the call itself. Any thread.
 void async(QObject* context, std::function<void()> work);
 
 /// Runs the work on the main thread and waits for it; on the main thread itself it runs at once. For alerts

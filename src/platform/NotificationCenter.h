@@ -18,7 +18,9 @@ class NotificationCenter {
 public:
     NotificationCenter();
 
-    /// Ends the observation when it goes; may outlive the centre.
+    /// Ends the observation when it goes; may outlive the centre. Once it is gone the observer is not called
+    /// any more and not running on another thread: going waits for that, so it must not hold what the observer
+    /// waits for.
     class [[nodiscard]] Observation {
     public:
         Observation() = default;

@@ -11,8 +11,7 @@ MacPath wrapperFolder(const MacPath& home);
 bool isWrapperPath(const MacPath& path);
 
 /// The Launchpad database that belongs to a temporary folder of the form /var/folders/XX/YYYY/T/: components 1
-/// to 4 and
-/// "/0/com.apple.dock.launchpad/db/db"; with fewer than five components the fixed path below
+/// to 4 and "/0/com.apple.dock.launchpad/db/db"; with fewer than five components the fixed path below
 /// /private/var/folders/0. Takes the text as the platform gives it, since a trailing "/" counts.
 MacPath launchpadDatabasePath(std::string_view temporaryFolder);
 
