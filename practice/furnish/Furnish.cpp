@@ -15,6 +15,7 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -70,6 +71,8 @@ void writeApplications(TreeWriter& tree, int largestIcon) {
     for (const SampleApp& app : sampleApps())
         painters.push_back([style = iconStyle(app)](int size) { return drawIcon(style, size); });
     const std::vector<Bytes> icons = buildIcons(painters, largestIcon);
+    if (std::ranges::any_of(icons, &Bytes::empty))
+        tree.note(Error{"Cannot draw the icons of the applications"});
 
     writeProgramBundle(tree, icons.front());
     std::size_t next = 1;

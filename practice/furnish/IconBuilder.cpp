@@ -29,6 +29,18 @@ void appendType(Bytes& bytes, const char* type) {
     bytes.insert(bytes.end(), type, type + 4);
 }
 
+/// Encoded for speed; empty on failure.
+Bytes encodePng(const QImage& picture) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "png");
+    writer.setCompression(12); // one of zlib's fastest levels: a third larger, several times faster
+    if (!writer.write(picture))
+        return {};
+    const QByteArray& data = buffer.data();
+    return {data.begin(), data.end()};
+}
+
 Bytes buildIcon(const IconPainter& painter, int largest) {
     constexpr std::size_t kHeader = 8; // type and length
     Bytes elements;
@@ -66,17 +78,6 @@ std::vector<Bytes> buildIcons(const std::vector<IconPainter>& painters, int larg
     for (std::thread& helper : helpers)
         helper.join();
     return icons;
-}
-
-Bytes encodePng(const QImage& picture) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    writer.setCompression(12); // one of zlib's fastest levels: a third larger, several times faster
-    if (!writer.write(picture))
-        return {};
-    const QByteArray& data = buffer.data();
-    return {data.begin(), data.end()};
 }
 
 } // namespace tavrik::practice

@@ -13,10 +13,7 @@ namespace tavrik::practice {
 using IconPainter = std::function<QImage(int size)>;
 
 /// The icon files of these painters, in their order: PNG elements from 16 pixels up to the largest size, each
-/// drawn at its own size. Uses every processor. An empty file where a picture could not be encoded.
+/// drawn at its own size. Uses every processor. An empty one where a picture could not be encoded.
 std::vector<Bytes> buildIcons(const std::vector<IconPainter>& painters, int largest);
-
-/// One picture as PNG, encoded for speed; empty on failure.
-Bytes encodePng(const QImage& picture);
 
 } // namespace tavrik::practice
