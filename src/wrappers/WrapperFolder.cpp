@@ -36,7 +36,7 @@ WrapperFolder::WrapperFolder(Mac& mac)
 
 MacPath WrapperFolder::wrapperOf(const MacPath& original) const {
     const std::string name = original.stem() + ".app";
-    return name != ".app" && isSafePathComponent(name) ? m_path / name : MacPath();
+    return !name.starts_with('.') && isSafePathComponent(name) ? m_path / name : MacPath();
 }
 
 bool WrapperFolder::isLink(const MacPath& wrapper) const {

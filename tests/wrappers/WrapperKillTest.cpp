@@ -1,0 +1,112 @@
+#include "wrappers/WrapperStage.h"
+
+#include <functional>
+#include <set>
+
+namespace tavrik::test {
+
+namespace {
+
+/// Stands for a kill: nothing in the program catches it.
+struct Killed {};
+
+class Kills : public WrapperStage {
+protected:
+    /// Runs the work and kills the program before the change of that number; false when it was over before.
+    bool killedBefore(std::size_t change, const std::function<void()>& work) {
+        std::size_t changes = 0;
+        const auto count = [&] {
+            if (++changes == change)
+                throw Killed();
+        };
+        files.setRule([&](const FileOperation& operation) -> std::optional<int> {
+            static const std::set<std::string> kChanges{"write",   "create", "copy",        "move",
+                                                        "replace", "remove", "createFolder"};
+            if (kChanges.contains(operation.name))
+                count();
+            return std::nullopt;
+        });
+        session.setInterceptor([&](const auto&, const auto&, const auto&) {
+            count();
+            return std::nullopt;
+        });
+        bool wasKilled = false;
+        try {
+            work();
+        } catch (const Killed&) {
+            wasKilled = true;
+        }
+        files.failNothing();
+        session.setInterceptor({});
+        start();
+        return wasKilled;
+    }
+
+    void create(const ApplicationInfo& app) {
+        program->settings.setSelectedIcon(app.bundleID, 0);
+        EXPECT_TRUE(wrappers().createWrapper(app, redIcon()));
+    }
+
+    void remove(const ApplicationInfo& app) { wrappers().removeWrapper(app, RestartDock::yes); }
+
+    /// Every kill point of the work, or every so many of them.
+    void sweep(std::size_t stride, const std::function<void()>& work,
+               const std::function<void(std::size_t)>& afterKill) {
+        std::size_t change = 1;
+        for (; killedBefore(change, work); change += stride) {
+            SCOPED_TRACE("killed before change " + std::to_string(change));
+            afterKill(change);
+            if (HasFailure())
+                return;
+        }
+        EXPECT_GT(change, 25u) << "too few changes were seen to mean anything";
+    }
+};
+
+} // namespace
+
+TEST_F(Kills, ARepeatedCreationReachesItsEndFromEveryPoint) {
+    for (const auto& [app, stride] : {std::pair(atlas, 1u), std::pair(tips, 5u)}) {
+        SCOPED_TRACE(app.name);
+        sweep(
+            stride, [&] { EXPECT_TRUE(wrappers().createWrapper(app, redIcon())); },
+            [&](std::size_t) {
+                create(app);
+                expectSwapped(app);
+                remove(app);
+                expectUntouched(app);
+            });
+        remove(app);
+        expectUntouched(app);
+    }
+}
+
+TEST_F(Kills, ARemovalUndoesAHalfDoneCreationFromEveryPoint) {
+    sweep(
+        2, [&] { EXPECT_TRUE(wrappers().createWrapper(atlas, redIcon())); },
+        [&](std::size_t) {
+            remove(atlas);
+            expectUntouched(atlas);
+        });
+}
+
+TEST_F(Kills, ARepeatedRemovalReachesItsEndFromEveryPoint) {
+    for (const auto& [app, stride] : {std::pair(atlas, 1u), std::pair(tips, 5u)}) {
+        SCOPED_TRACE(app.name);
+        create(app);
+        sweep(
+            stride, [&] { remove(app); },
+            [&](std::size_t change) {
+                remove(app);
+                expectUntouched(app);
+                create(app);
+                // Every other time a creation follows the kill, as when the person changes their mind.
+                if (change % 2 == 0 && killedBefore(change, [&] { remove(app); }))
+                    create(app);
+                expectSwapped(app);
+            });
+        expectUntouched(app);
+    }
+}
+
+} // namespace tavrik::test
