@@ -1,0 +1,160 @@
+#include "practice/session/Session.h"
+
+#include "platform/FileManager.h"
+#include "platform/PathRules.h"
+#include "platform/Tools.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeMac.h"
+#include "platform/practice/PropertyListFile.h"
+#include "practice/dock/Dock.h"
+#include "practice/process/ProcessRecord.h"
+#include "support/WaitFor.h"
+#include "support/practice/PracticeVolume.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tavrik::practice {
+namespace {
+
+using test::waitFor;
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+
+struct SessionTest : testing::Test {
+    SessionTest() { EXPECT_TRUE(writeDockBehaviour(root, {.restartDelay = 0.05, .indexDelay = 0.1})); }
+
+    std::vector<int> docks() const { return liveProcesses(root, "Dock"); }
+
+    int run(const MacPath& tool, const std::vector<std::string>& arguments) {
+        const auto result = mac.mac().tools.run(tool, arguments);
+        return result ? result->exitStatus : -1;
+    }
+
+    bool dockOtherThan(int number) const {
+        return waitFor([&] { return docks().size() == 1 && docks().front() != number; });
+    }
+
+    test::PracticeVolume volume{{.tool = HostPath(PRACTICE_TOOL), .dock = HostPath(PRACTICE_DOCK)}};
+    const HostPath root = volume.root();
+    PracticeMac mac{root};
+    FileManager& files = mac.mac().files;
+    const MacPath killall{"/usr/bin/killall"};
+    const MacPath preferences = dockPreferencesPath(kHome);
+};
+
+TEST_F(SessionTest, RestartsAKilledDockWhichSavesNothingAndEndsItWithItself) {
+    std::optional<Session> session(root);
+    ASSERT_THAT(docks(), SizeIs(1)) << "a session begins with its Dock running";
+    const plist::Value changed(plist::Dictionary{{"autohide", true}});
+    ASSERT_TRUE(writePropertyList(files, preferences, changed));
+
+    int before = docks().front();
+    EXPECT_EQ(run(killall, {"Dock"}), 0);
+    ASSERT_TRUE(dockOtherThan(before));
+    before = docks().front();
+    EXPECT_EQ(run(killall, {"-HUP", "Dock"}), 0);
+    ASSERT_TRUE(dockOtherThan(before));
+    EXPECT_EQ(volume.dockPreferences(), changed);
+
+    session.reset();
+    EXPECT_TRUE(std::filesystem::is_empty(volume.host(kProcessFolder).string()));
+    EXPECT_EQ(run(killall, {"Dock"}), 1);
+}
+
+TEST_F(SessionTest, IndexesWhatTheRealToolsRegistered) {
+    const MacPath wrapper = kHome / "Applications/Tavrik/Ferrule.app";
+    const MacPath contents("/Applications/Ferrule.app/Contents");
+    ASSERT_TRUE(files.createFolder(wrapper));
+    EXPECT_EQ(run(MacPath("/bin/ln"), {"-s", contents.string(), (wrapper / "Contents").string()}), 0);
+    EXPECT_EQ(run(kLaunchServicesTool, {"-f", wrapper.string()}), 0);
+    const Session session(root);
+    EXPECT_TRUE(waitFor([&] {
+        const auto rows = volume.appRows("org.example.ferrule");
+        return std::ranges::find(rows, wrapper, &test::LaunchpadItem::path) != rows.end();
+    }));
+}
+
+TEST_F(SessionTest, LeavesNoDockBehindWhenItsProgramIsKilled) {
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    ::fcntl(ready[1], F_SETFD, FD_CLOEXEC); // or the Dock would hold it open
+    const pid_t program = ::fork();
+    if (program == 0) {
+        const Session session(root);
+        ::close(ready[1]);
+        ::pause();
+        ::_exit(0);
+    }
+    ::close(ready[1]);
+    char byte = 0;
+    EXPECT_EQ(::read(ready[0], &byte, 1), 0);
+    ::close(ready[0]);
+    ASSERT_THAT(docks(), SizeIs(1));
+    const int dock = docks().front();
+    ASSERT_EQ(::kill(program, SIGKILL), 0);
+    ::waitpid(program, nullptr, 0);
+    EXPECT_TRUE(waitFor([&] { return docks().empty(); })) << "still runs: " << dock;
+
+    const Session next(root);
+    EXPECT_THAT(docks(), SizeIs(1));
+}
+
+TEST_F(SessionTest, OfTwoKeepersTheSecondTakesOverFromTheFirst) {
+    std::optional<Session> first(root);
+    ASSERT_THAT(docks(), SizeIs(1));
+    const int dock = docks().front();
+    const Session second(root);
+    EXPECT_THAT(docks(), testing::ElementsAre(dock));
+    first.reset();
+    EXPECT_TRUE(dockOtherThan(dock));
+}
+
+TEST_F(SessionTest, GivesUpADockThatFailsAtEveryStart) {
+    ASSERT_TRUE(files.remove(kDockProgram));
+    ASSERT_TRUE(writeDockBehaviour(root, {.restartDelay = 0}));
+    testing::internal::CaptureStderr();
+    {
+        const Session session(root);
+    }
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(root.string() + " fails at every start"));
+}
+
+TEST_F(SessionTest, TheDockSavesItsPreferencesOnlyWhenToldToQuit) {
+    for (const bool polite : {false, true}) {
+        int lifeline[2];
+        ASSERT_EQ(::pipe(lifeline), 0);
+        const plist::Value before = volume.dockPreferences();
+        const std::string program = volume.host(kDockProgram).string();
+        const pid_t dock = ::fork();
+        if (dock == 0) {
+            ::dup2(lifeline[0], STDIN_FILENO);
+            ::close(lifeline[1]);
+            ::execl(program.c_str(), program.c_str(), nullptr);
+            ::_exit(127);
+        }
+        ::close(lifeline[0]);
+        EXPECT_TRUE(waitFor([&] { return docks().size() == 1; }));
+        if (polite) {
+            EXPECT_EQ(::write(lifeline[1], "q", 1), 1);
+        }
+        ::close(lifeline[1]);
+        int status = -1;
+        EXPECT_EQ(::waitpid(dock, &status, 0), dock);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(*volume.dockPreferences().find<std::int64_t>("mod-count"),
+                  *before.find<std::int64_t>("mod-count") + (polite ? 1 : 0));
+        EXPECT_THAT(docks(), SizeIs(0));
+    }
+}
+
+} // namespace
+} // namespace tavrik::practice
