@@ -4,6 +4,7 @@
 #include "model/UnsupportedAppsManager.h"
 #include "platform/Bookmarks.h"
 #include "platform/Sqlite.h"
+#include "practice/furnish/LaunchpadSchema.h"
 #include "support/LogRecorder.h"
 #include "support/SmallMac.h"
 #include "system/DatabaseManager.h"
@@ -13,28 +14,16 @@
 
 namespace tavrik::test {
 
-/// A hand-made Launchpad database with the real tables and the triggers that a swap must silence.
+/// A hand-made Launchpad database with the real tables and triggers.
 class LaunchpadSample : public testing::Test {
 protected:
     LaunchpadSample() {
         ignoreFailure(small.files.createFolder(database.launchpadDatabasePath().parent()));
         connection.emplace(*sqlite::Connection::open(
             small.mac.volume.hostPath(database.launchpadDatabasePath()), sqlite::OpenMode::readWriteCreate));
-        run(R"(
-            PRAGMA journal_mode=WAL;
-            CREATE TABLE dbinfo (key VARCHAR, value VARCHAR);
-            CREATE TABLE items (rowid INTEGER PRIMARY KEY ASC, uuid VARCHAR, flags INTEGER, type INTEGER,
-                parent_id INTEGER NOT NULL, ordering INTEGER);
-            CREATE TABLE apps (item_id INTEGER PRIMARY KEY, title VARCHAR, bundleid VARCHAR, storeid VARCHAR,
-                category_id INTEGER, moddate REAL, bookmark BLOB);
-            CREATE TABLE groups (item_id INTEGER PRIMARY KEY, category_id INTEGER, title VARCHAR);
-            CREATE TRIGGER update_item_parent AFTER UPDATE OF parent_id ON items
-                WHEN 0 == (SELECT value FROM dbinfo WHERE key='ignore_items_update_triggers')
-            BEGIN
-                UPDATE items SET ordering = (SELECT ifnull(MAX(ordering),0)+1 FROM items
-                    WHERE parent_id=new.parent_id AND ROWID!=old.rowid) WHERE ROWID=old.rowid;
-            END;
-            INSERT INTO dbinfo VALUES ('ignore_items_update_triggers', '0');)");
+        run("PRAGMA journal_mode=WAL");
+        run(practice::kLaunchpadSchema);
+        run("INSERT OR REPLACE INTO dbinfo VALUES ('ignore_items_update_triggers', '0')");
     }
 
     void run(const std::string& sql) {
@@ -50,10 +39,12 @@ protected:
 
     void addRow(std::int64_t row, const std::string& title, std::optional<std::string> identifier,
                 std::optional<int> flags, std::optional<Bytes> bookmark) {
+        run("UPDATE dbinfo SET value='1'");
         auto item = connection->prepare("INSERT INTO items VALUES (?1, 'uuid', ?2, 4, 100 + ?1, ?1)");
         item.bind(1, row);
         item.bind(2, flags);
         EXPECT_EQ(item.step(), sqlite::Step::done);
+        run("UPDATE dbinfo SET value='0'");
         auto app = connection->prepare("INSERT INTO apps VALUES (?, ?, ?, NULL, NULL, 0, ?)");
         app.bind(1, row);
         app.bind(2, std::string_view(title));
