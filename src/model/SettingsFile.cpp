@@ -59,7 +59,7 @@ plist::Dictionary SettingsFile::load() {
     return {};
 }
 
-SettingsFile::Saved SettingsFile::save(const plist::Dictionary& settings) {
+SettingsFile::Saved SettingsFile::save(plist::Dictionary settings) {
     if (settings.empty()) {
         log("WARNING: Attempting to save empty settings - aborting to prevent data loss");
         return Saved::no;
@@ -70,7 +70,7 @@ SettingsFile::Saved SettingsFile::save(const plist::Dictionary& settings) {
     }
 
     const bool backupIsCurrent = refreshBackup();
-    const auto saved = replaceWith(settings);
+    const auto saved = replaceWith(std::move(settings));
     if (saved) {
         m_backupIsTheGoodOne = false;
         return *saved;
@@ -96,8 +96,8 @@ bool SettingsFile::refreshBackup() {
     return static_cast<bool>(m_files.copy(m_main, m_backup));
 }
 
-Result<SettingsFile::Saved> SettingsFile::replaceWith(const plist::Dictionary& settings) {
-    const auto data = plist::serialize(plist::Value(settings), plist::Format::xml);
+Result<SettingsFile::Saved> SettingsFile::replaceWith(plist::Dictionary settings) {
+    const auto data = plist::serialize(plist::Value(std::move(settings)), plist::Format::xml);
     if (!data)
         return data.error();
     // One left by a kill; removing it, rather than writing over it, also never follows a link.

@@ -37,11 +37,11 @@ public:
 
     /// Writes the whole dictionary: backup copy, temporary file, flush, replacement in one step. An empty
     /// dictionary is refused. A failure leaves no temporary file; a kill leaves the main file old or new.
-    Saved save(const plist::Dictionary& settings);
+    Saved save(plist::Dictionary settings);
 
 private:
     bool refreshBackup();
-    Result<Saved> replaceWith(const plist::Dictionary& settings);
+    Result<Saved> replaceWith(plist::Dictionary settings);
 
     FileManager& m_files;
     const MacPath m_main;

@@ -38,7 +38,7 @@ SettingsStore::Saved SettingsStore::change(const Edit& edit) {
         const std::lock_guard turn(m_writeTurn);
         plist::Dictionary settings = m_file.load();
         edit(settings);
-        saved = m_file.save(settings);
+        saved = m_file.save(std::move(settings));
     }
     dropCache();
     return saved;

@@ -52,9 +52,9 @@ std::optional<sqlite::Connection> openDatabase(const Volume& volume, const MacPa
 }
 
 /// Without white space and line breaks at both ends.
-std::string trimmed(std::string text) {
+std::string trimmed(const std::string& text) {
     const auto isPlain = [](char c) { return c > ' ' && c < 0x7f; };
-    if (text.empty() || (isPlain(text.front()) && isPlain(text.back())))
+    if (!text.empty() && isPlain(text.front()) && isPlain(text.back()))
         return text;
     return QString::fromStdString(text).trimmed().toStdString();
 }
@@ -87,11 +87,11 @@ std::vector<DatabaseManager::AppRow> DatabaseManager::loadLaunchpadApps() {
         sqlite::Step step = listing.step();
         for (; step == sqlite::Step::row; step = listing.step()) {
             auto title = listing.text(0);
-            auto identifier = listing.text(1);
-            if (!title || !identifier)
+            const auto storedIdentifier = listing.text(1);
+            if (!title || !storedIdentifier)
                 continue;
-            *identifier = trimmed(std::move(*identifier));
-            if (!seen.insert(*identifier).second)
+            std::string identifier = trimmed(*storedIdentifier);
+            if (!seen.insert(identifier).second)
                 continue;
             auto bookmark = listing.blob(2);
             const auto rowID = listing.int64(4);
@@ -102,9 +102,9 @@ std::vector<DatabaseManager::AppRow> DatabaseManager::loadLaunchpadApps() {
                 continue;
             DatabaseAppEntry entry{RowID{*rowID}, listing.int32(3), RowID{listing.int64(5).value_or(0)},
                                    listing.int32(6).value_or(0), std::move(*bookmark)};
-            if (entry.isHidden() && identifier->starts_with("com.apple."))
-                hidden.push_back({*identifier, *entry.flags, entry.rowID});
-            apps.emplace_back(describe(std::move(*title), std::move(*identifier), *path), std::move(entry));
+            if (entry.isHidden() && identifier.starts_with("com.apple."))
+                hidden.push_back({identifier, *entry.flags, entry.rowID});
+            apps.emplace_back(describe(std::move(*title), std::move(identifier), *path), std::move(entry));
         }
         if (step == sqlite::Step::failed)
             return {};

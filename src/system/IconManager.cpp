@@ -19,6 +19,8 @@ namespace tavrik {
 namespace {
 
 constexpr int kSquareSide = 1024; ///< pixels
+/// Scaled premultiplied, so that the colour of transparent pixels does not bleed into the edges.
+constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
 constexpr std::size_t kLargestInfoPlist = 16u << 20;
 constexpr std::size_t kLargestIconFile = 64u << 20;
 
@@ -73,6 +75,17 @@ bool isSRGB(const QImage& image) {
     return !space.isValid() || space == QColorSpace(QColorSpace::SRgb);
 }
 
+/// Averages areas on the way down and interpolates on the way up. Null when there is no memory for it.
+QImage scaledInSRGB(const QImage& picture, QSize size) {
+    QImage scaled =
+        picture.convertToFormat(kFormat).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (isSRGB(scaled))
+        scaled.setColorSpace(QColorSpace::SRgb);
+    else
+        scaled.convertToColorSpace(QColorSpace::SRgb);
+    return scaled;
+}
+
 } // namespace
 
 IconManager::IconManager(Mac& mac) : m_mac(mac) {}
@@ -96,31 +109,22 @@ QImage IconManager::appIcon(const MacPath& atPath) const {
 }
 
 std::optional<QImage> IconManager::squareIcon(const QImage& from) {
-    constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
     if (from.size() == QSize(kSquareSide, kSquareSide) && from.format() == kFormat && isSRGB(from))
         return from;
 
+    const QRect rect = fittedRect(from.size());
+    const QImage scaled = from.isNull() ? QImage() : scaledInSRGB(from, rect.size());
+    if (scaled.size() == QSize(kSquareSide, kSquareSide))
+        return scaled;
+
     QImage square(kSquareSide, kSquareSide, kFormat);
-    if (square.isNull()) {
+    if (square.isNull() || (scaled.isNull() && !from.isNull())) {
         log("Failed to create bitmap for icon conversion");
         return std::nullopt;
     }
     square.setColorSpace(QColorSpace::SRgb);
     square.fill(Qt::transparent);
-    if (from.isNull())
-        return square;
-
-    // Scaled premultiplied, so that the colour of transparent pixels does not bleed into the edges.
-    const QRect rect = fittedRect(from.size());
-    QImage scaled =
-        from.convertToFormat(kFormat).scaled(rect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (scaled.isNull()) {
-        log("Failed to create bitmap for icon conversion");
-        return std::nullopt;
-    }
-    if (!isSRGB(scaled))
-        scaled.convertToColorSpace(QColorSpace::SRgb);
-    for (int y = 0; y < rect.height(); ++y)
+    for (int y = 0; y < scaled.height(); ++y)
         std::copy_n(reinterpret_cast<const QRgb*>(scaled.constScanLine(y)), rect.width(),
                     reinterpret_cast<QRgb*>(square.scanLine(rect.top() + y)) + rect.left());
     return square;
