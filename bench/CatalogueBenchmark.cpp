@@ -1,0 +1,23 @@
+#include "bench/BenchMac.h"
+#include "model/catalogue/AppManager.h"
+
+#include <benchmark/benchmark.h>
+
+namespace tavrik::bench {
+namespace {
+
+void catalogue(benchmark::State& state) {
+    const Folder folder;
+    const HostPath root = folder.path() / "mac";
+    furnishWithRows(root, static_cast<int>(state.range(0)));
+    Catalogue managers(root);
+    AppManager apps(managers.database, managers.settings);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(apps.loadApplications());
+    state.SetComplexityN(state.range(0));
+}
+
+BENCHMARK(catalogue)->Arg(300)->Arg(5'000)->Arg(50'000)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace tavrik::bench
