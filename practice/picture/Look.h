@@ -1,0 +1,28 @@
+#pragma once
+
+#include "practice/picture/Picture.h"
+
+#include <QColor>
+#include <QFont>
+
+namespace tavrik::practice {
+
+/// Colours and fonts of one appearance. Font sizes are pixels of a picture of scale 1.
+struct Look {
+    explicit Look(Appearance appearance);
+
+    QColor title;
+    QColor caption;
+    QColor faint;       ///< lines and dots that only hint
+    QColor panel;       ///< translucent, of an opened folder and the Dock
+    QColor panelBorder; ///< the light edge of a panel
+    QColor folderTile;  ///< translucent, of a closed folder
+    QColor shadow;
+
+    QFont titleFont;   ///< below icons
+    QFont labelFont;   ///< of the Dock's tiles
+    QFont headingFont; ///< of pages, folders and the Dock
+    QFont captionFont;
+};
+
+} // namespace tavrik::practice

@@ -1,0 +1,92 @@
+#include "practice/picture/DockLayout.h"
+
+#include "platform/PosixFileManager.h"
+#include "platform/practice/PracticeBookmarks.h"
+#include "platform/practice/PropertyListFile.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+using namespace tavrik;
+using namespace tavrik::practice;
+using plist::Array;
+using plist::Dictionary;
+using plist::Value;
+
+namespace {
+
+const MacPath kPreferences("/com.apple.dock.plist");
+
+Value tile(const char* type, Dictionary data) {
+    return Dictionary{{"tile-type", type}, {"tile-data", std::move(data)}};
+}
+
+Value url(const char* text) {
+    return Dictionary{{"_CFURLString", text}, {"_CFURLStringType", 15}};
+}
+
+} // namespace
+
+TEST(DockLayout, ReadsEveryKindOfTile) {
+    const test::TemporaryFolder folder;
+    PosixFileManager files(folder.path());
+    const MacPath first("/Applications/First.app");
+    const MacPath second("/Applications/Second One.app");
+    for (const MacPath& path : {first, second, MacPath("/Users/practice/Downloads")})
+        ASSERT_TRUE(files.createFolder(path));
+    ASSERT_TRUE(files.create(MacPath("/Users/practice/letter.txt"), {}));
+    const auto book = PracticeBookmarks(files).make(first);
+    ASSERT_TRUE(book);
+    const auto secondURL = url("file:///Applications/Second%20One.app/");
+
+    struct Case {
+        Value tile;
+        DockTile read;
+    };
+
+    const Case cases[] = {
+        {tile("file-tile",
+              {{"book", *book}, {"file-data", secondURL}, {"file-label", "One"}, {"bundle-identifier", "x.1"}}),
+         {TileKind::app, "One", "x.1", first}},
+        {tile("file-tile", {{"book", Bytes{1, 2, 3}}, {"file-data", secondURL}}),
+         {TileKind::app, "Second One", "", second}},
+        {tile("file-tile", {{"file-data", url("/Applications/First.app")}}),
+         {TileKind::app, "First", "", first}},
+        {tile("file-tile", {{"file-data", url("file:///Applications/Gone.app/")}, {"file-label", "Gone"}}),
+         {TileKind::app, "Gone", "", {}}},
+        {tile("directory-tile", {{"file-data", url("file:///Users/practice/Downloads/")}}),
+         {TileKind::folder, "Downloads", "", MacPath("/Users/practice/Downloads")}},
+        {tile("file-tile", {{"file-data", url("file:///Users/practice/letter.txt")}}),
+         {TileKind::file, "letter", "", MacPath("/Users/practice/letter.txt")}},
+        {tile("spacer-tile", {{"file-label", ""}}), {TileKind::spacer, "", "", {}}},
+        {tile("small-spacer-tile", {{"file-label", " "}}), {TileKind::smallSpacer, " ", "", {}}},
+        {tile("file-tile", {{"book", "text"},
+                            {"file-data", Array{}},
+                            {"file-label", Dictionary{}},
+                            {"bundle-identifier", 5}}),
+         {TileKind::app, "", "", {}}},
+    };
+    Array tiles{Value("no tile"), Dictionary{}};
+    for (const Case& c : cases)
+        tiles.push_back(c.tile);
+    ASSERT_TRUE(writePropertyList(files, kPreferences,
+                                  Dictionary{{"persistent-apps", tiles}, {"persistent-others", 3}}));
+    const auto layout = readDockLayout(files, kPreferences);
+    ASSERT_TRUE(layout);
+    ASSERT_EQ(layout->apps.size(), std::size(cases));
+    for (std::size_t i = 0; i < std::size(cases); ++i)
+        EXPECT_EQ(layout->apps[i], cases[i].read) << i;
+    EXPECT_TRUE(layout->others.empty());
+}
+
+TEST(DockLayout, ShowsRecentApplicationsUnlessTheyAreTurnedOff) {
+    const test::TemporaryFolder folder;
+    PosixFileManager files(folder.path());
+    EXPECT_FALSE(readDockLayout(files, kPreferences));
+    Dictionary preferences{{"recent-apps", Array{tile("file-tile", {{"file-label", "Lately"}})}}};
+    for (bool shown : {true, false}) {
+        preferences["show-recents"] = shown;
+        ASSERT_TRUE(writePropertyList(files, kPreferences, preferences));
+        EXPECT_EQ(readDockLayout(files, kPreferences)->recents.size(), shown ? 1u : 0u);
+    }
+}

@@ -1,0 +1,179 @@
+#include "practice/picture/LaunchpadLayout.h"
+
+#include "platform/PosixFileManager.h"
+#include "platform/Sqlite.h"
+#include "platform/practice/PracticeBookmarks.h"
+#include "support/FileTree.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+using namespace tavrik;
+using namespace tavrik::practice;
+using testing::ElementsAre;
+
+namespace {
+
+constexpr const char* kTables =
+    "CREATE TABLE dbinfo (key VARCHAR, value VARCHAR);"
+    "CREATE TABLE items (rowid INTEGER PRIMARY KEY, uuid VARCHAR, flags INTEGER, type INTEGER, parent_id "
+    "INTEGER, "
+    "ordering INTEGER);"
+    "CREATE TABLE apps (item_id INTEGER PRIMARY KEY, title VARCHAR, bundleid VARCHAR, bookmark BLOB);";
+
+/// A volume with a database made by hand.
+struct SmallLaunchpad {
+    test::TemporaryFolder folder;
+    PosixFileManager files{folder.path()};
+    HostPath database = folder.path() / "db";
+    std::optional<sqlite::Connection> connection =
+        sqlite::Connection::open(database, sqlite::OpenMode::readWriteCreate);
+
+    SmallLaunchpad() {
+        run("PRAGMA synchronous = OFF");
+        run(kTables);
+    }
+
+    void run(const char* sql) { ASSERT_TRUE(connection->execute(sql)) << connection->lastError(); }
+
+    /// One line for each item: an application's title, or a folder's with those in it in brackets.
+    std::vector<std::string> shown(std::size_t mostPages = 9) const {
+        const auto layout = readLaunchpadLayout(files, database, mostPages);
+        if (!layout)
+            return {"error"};
+        std::vector<std::string> lines;
+        for (const auto& page : layout->pages) {
+            std::string line;
+            for (const LaunchpadItem& item : page) {
+                if (const auto* app = std::get_if<LaunchpadApp>(&item)) {
+                    line += app->title + " ";
+                    continue;
+                }
+                const auto& inner = std::get<LaunchpadFolder>(item);
+                line += inner.title + "[ ";
+                for (const auto& innerPage : inner.pages) {
+                    for (const LaunchpadApp& app : innerPage)
+                        line += app.title + " ";
+                    line += "| ";
+                }
+                line += "] ";
+            }
+            lines.push_back(line);
+        }
+        for (std::size_t i = 0; i < layout->pagesLeftOut; ++i)
+            lines.push_back("left out");
+        return lines;
+    }
+};
+
+/// Two pages and a folder of two pages; the rows stand in no particular order.
+constexpr const char* kLayout =
+    "INSERT INTO dbinfo VALUES ('launchpad_root', '7');"
+    "CREATE TABLE groups (item_id INTEGER PRIMARY KEY, title VARCHAR);"
+    "INSERT INTO groups VALUES (30, 'Tools');"
+    "INSERT INTO items VALUES (7,'ROOTPAGE',NULL,1,0,0), (8,'HOLDINGPAGE',2,3,7,0), (11,'b',2,3,7,2), "
+    "(10,'a',2,3,7,1), (20,'',0,4,10,1), (21,'',NULL,4,10,0), (30,'',1,2,10,2), (31,'',2,3,30,1), "
+    "(32,'',2,3,30,0), (22,'',0,4,31,0), (23,'',0,4,32,5), (24,'',0,4,11,3), (25,'',0,4,8,0);"
+    "INSERT INTO apps VALUES (20,'Second','x.second',NULL), (21,'First','x.first',NULL), "
+    "(22,'Later','x.later',NULL), (23,'Inner','x.inner',NULL), (24,'Other','x.other',NULL), "
+    "(25,'Held','x.held',NULL);";
+
+} // namespace
+
+TEST(LaunchpadLayout, FollowsTheOrderOfPagesFoldersAndItems) {
+    SmallLaunchpad launchpad;
+    launchpad.run(kLayout);
+    EXPECT_THAT(launchpad.shown(), ElementsAre("First Second Tools[ Inner | Later | ] ", "Other "));
+    EXPECT_THAT(launchpad.shown(1), ElementsAre("First Second Tools[ Inner | Later | ] ", "left out"));
+}
+
+TEST(LaunchpadLayout, ShowsWhatAPersonWouldSee) {
+    struct Case {
+        const char* change;
+        std::vector<std::string> pages;
+    };
+
+    const Case cases[] = {
+        {"UPDATE items SET flags = 129 WHERE rowid = 20", {"First Tools[ Inner | Later | ] ", "Other "}},
+        {"UPDATE items SET flags = 128 WHERE rowid = 20; "
+         "UPDATE apps SET bundleid = 'COM.apple.x' WHERE item_id = 20",
+         {"First Second Tools[ Inner | Later | ] ", "Other "}},
+        // The folder stands before the second page, so its row is the one that is shown.
+        {"UPDATE apps SET bundleid = ' X.Inner ' WHERE item_id = 24",
+         {"First Second Tools[ Inner | Later | ] ", ""}},
+        {"UPDATE apps SET bundleid = 'x.later' WHERE item_id = 20",
+         {"First Second Tools[ Inner | | ] ", "Other "}},
+        // A hidden row does not stand in the way of a shown one.
+        {"UPDATE items SET flags = 128 WHERE rowid = 21; UPDATE apps SET bundleid = 'x.first' WHERE item_id = "
+         "24",
+         {"Second Tools[ Inner | Later | ] ", "Other "}},
+        {"UPDATE apps SET bundleid = NULL, title = NULL", {"  Tools[  |  | ] ", " "}},
+        {"DELETE FROM dbinfo; UPDATE items SET rowid = 1 WHERE rowid = 7; "
+         "UPDATE items SET parent_id = 1 WHERE parent_id = 7",
+         {"First Second Tools[ Inner | Later | ] ", "Other "}},
+        {"UPDATE items SET ordering = NULL, flags = 'x', uuid = 5 WHERE rowid = 20",
+         {"Second First Tools[ Inner | Later | ] ", "Other "}},
+        {"DROP TABLE groups", {"First Second [ Inner | Later | ] ", "Other "}},
+        {"DROP TABLE apps", {"Tools[ | | ] ", ""}},
+        {"UPDATE items SET parent_id = rowid WHERE type IN (2, 3)", {}},
+        {"DROP TABLE items", {"error"}},
+    };
+    for (const Case& c : cases) {
+        SmallLaunchpad launchpad;
+        launchpad.run(kLayout);
+        launchpad.run(c.change);
+        EXPECT_EQ(launchpad.shown(), c.pages) << c.change;
+    }
+}
+
+TEST(LaunchpadLayout, FollowsABookmarkOnlyToWhatIsThere) {
+    SmallLaunchpad launchpad;
+    launchpad.run(kLayout);
+    const MacPath app("/Applications/Second.app");
+    ASSERT_TRUE(launchpad.files.createFolder(app));
+    const auto bookmark = PracticeBookmarks(launchpad.files).make(app);
+    ASSERT_TRUE(bookmark);
+    auto update = launchpad.connection->prepare("UPDATE apps SET bookmark = ?1 WHERE item_id = 20");
+    update.bind(1, ByteView(*bookmark));
+    ASSERT_EQ(update.step(), sqlite::Step::done);
+
+    const auto pathOfSecond = [&] {
+        const auto layout = readLaunchpadLayout(launchpad.files, launchpad.database, 9);
+        return std::get<LaunchpadApp>(layout->pages.at(0).at(1)).path;
+    };
+    EXPECT_EQ(pathOfSecond(), app);
+    ASSERT_TRUE(launchpad.files.remove(app));
+    EXPECT_EQ(pathOfSecond(), MacPath());
+}
+
+TEST(LaunchpadLayout, ReadsTheLogOfADatabaseWithoutTouchingAnything) {
+    SmallLaunchpad launchpad;
+    launchpad.run("PRAGMA journal_mode = WAL");
+    launchpad.run(kLayout);
+    namespace fs = std::filesystem;
+    const std::vector<std::string> whole = {"First Second Tools[ Inner | Later | ] ", "Other "};
+    for (const auto& companions : {std::vector<const char*>{"-wal", "-shm"}, std::vector<const char*>{"-wal"},
+                                   std::vector<const char*>{}}) {
+        // As a killed process leaves the files, and as people copy them.
+        const test::TemporaryFolder copies;
+        const HostPath copy = copies.path() / "db";
+        fs::copy_file(launchpad.database.string(), copy.string());
+        for (const char* ending : companions)
+            fs::copy_file(launchpad.database.string() + ending, copy.string() + ending);
+        auto before = test::treeOf(copies.path());
+        const auto layout = readLaunchpadLayout(launchpad.files, copy, 9);
+        auto after = test::treeOf(copies.path());
+        // Locks of readers live in the shared-memory file.
+        before.erase("db-shm");
+        after.erase("db-shm");
+        EXPECT_THAT(test::differences(before, after), ElementsAre());
+        EXPECT_EQ(layout && layout->pages.size() == 2, !companions.empty());
+    }
+    EXPECT_EQ(launchpad.shown(), whole); // and beside a writer that has it open
+    launchpad.connection.reset();
+    const auto before = test::treeOf(launchpad.folder.path());
+    EXPECT_EQ(launchpad.shown(), whole);
+    EXPECT_THAT(test::differences(before, test::treeOf(launchpad.folder.path())), ElementsAre());
+}

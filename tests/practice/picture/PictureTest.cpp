@@ -1,0 +1,149 @@
+#include "practice/picture/Picture.h"
+
+#include "platform/Icns.h"
+#include "platform/Sqlite.h"
+#include "platform/practice/CustomIcon.h"
+#include "platform/practice/PracticeFileManager.h"
+#include "practice/furnish/LargeDatabase.h"
+#include "support/FileTree.h"
+#include "support/practice/PracticeVolume.h"
+
+#include <QGuiApplication>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+using namespace tavrik;
+using namespace tavrik::practice;
+using testing::IsEmpty;
+
+namespace {
+
+class Picture : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int count = 1;
+        static char name[] = "picture";
+        static char* arguments[] = {name, nullptr};
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        s_application = std::make_unique<QGuiApplication>(count, arguments);
+    }
+
+    static void TearDownTestSuite() { s_application.reset(); }
+
+    QImage draw(PictureOptions options = {}) {
+        auto picture = drawPicture(m_mac.root(), options, m_map);
+        EXPECT_TRUE(picture) << (picture ? "" : picture.error().description);
+        return picture ? *picture : QImage();
+    }
+
+    QImage drawAfter(const char* sql) {
+        auto connection = sqlite::Connection::open(m_mac.launchpadDatabase(), sqlite::OpenMode::readWrite);
+        EXPECT_TRUE(connection && connection->execute(sql)) << sql;
+        return draw();
+    }
+
+    std::vector<Spot> spotsOf(const char* bundleID) const {
+        std::vector<Spot> spots;
+        std::ranges::copy_if(m_map.spots, std::back_inserter(spots),
+                             [&](const Spot& spot) { return spot.bundleID == bundleID; });
+        return spots;
+    }
+
+    test::PracticeVolume m_mac;
+    PictureMap m_map;
+    static std::unique_ptr<QGuiApplication> s_application;
+};
+
+std::unique_ptr<QGuiApplication> Picture::s_application;
+
+/// The icon's middle, away from titles.
+QColor middleOf(const QImage& picture, const Spot& spot) {
+    return picture.pixelColor(spot.icon.center().toPoint());
+}
+
+/// The smallest rectangle with everything in which two pictures of one size differ.
+QRect differenceOf(const QImage& first, const QImage& second) {
+    QRect area;
+    for (int y = 0; y < first.height(); ++y) {
+        for (int x = 0; x < first.width(); ++x) {
+            if (first.pixel(x, y) != second.pixel(x, y))
+                area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
+} // namespace
+
+TEST_F(Picture, ShowsACustomIconWhereverItsApplicationIs) {
+    const QImage before = draw();
+    QImage square(128, 128, QImage::Format_ARGB32);
+    square.fill(QColor(1, 254, 3));
+    PracticeFileManager files(m_mac.root());
+    const std::vector<Spot> spots = spotsOf("org.example.atlas");
+    ASSERT_EQ(spots.size(), 2u); // Launchpad and Dock
+    ASSERT_TRUE(writeCustomIcon(files, spots[0].path, icns::encode(square)));
+    const QImage after = draw();
+    for (const Spot& spot : spots) {
+        EXPECT_NE(middleOf(before, spot), QColor(1, 254, 3)) << spot.where;
+        EXPECT_EQ(middleOf(after, spot), QColor(1, 254, 3)) << spot.where;
+    }
+}
+
+TEST_F(Picture, ChangesWhenAndOnlyWhenSomethingShownChanges) {
+    struct Case {
+        const char* sql;
+        const char* where; ///< the identifier of what must look different; null for nothing
+    };
+
+    QImage before = draw();
+    for (const Case& c :
+         {Case{"UPDATE apps SET moddate = 1, storeid = 'x', category_id = 3", nullptr},
+          Case{"UPDATE image_cache SET size_big = 7", nullptr},
+          Case{"UPDATE apps SET title = 'Changed' WHERE bundleid = 'net.example.tessera'",
+               "net.example.tessera"},
+          Case{"UPDATE apps SET bookmark = NULL WHERE bundleid = 'net.example.tidewater.helper'", nullptr},
+          Case{"UPDATE apps SET bookmark = NULL WHERE bundleid = 'org.example.orrery'",
+               "org.example.orrery"}}) {
+        const QImage after = drawAfter(c.sql);
+        ASSERT_EQ(after.size(), before.size()) << c.sql;
+        const QRect area = differenceOf(before, after);
+        EXPECT_EQ(area.isEmpty(), c.where == nullptr) << c.sql;
+        if (c.where) {
+            const QRect cell = spotsOf(c.where).at(0).icon.toRect().adjusted(-40, -2, 40, 30);
+            EXPECT_TRUE(cell.contains(area)) << c.sql;
+        }
+        before = after;
+    }
+}
+
+TEST_F(Picture, HasTwoAppearancesAndTwoScalesAndWritesNothing) {
+    const auto tree = test::treeOf(m_mac.root());
+    const QImage light = draw();
+    const Spot plain = spotsOf("org.example.orrery").at(0);
+    const QImage dark = draw({.appearance = Appearance::dark});
+    const QImage large = draw({.scale = 2});
+    const Spot scaled = spotsOf("org.example.orrery").at(0);
+    EXPECT_GT(qGray(light.pixel(5, 5)), qGray(dark.pixel(5, 5)) + 100);
+    EXPECT_EQ(large.size(), light.size() * 2);
+    EXPECT_EQ(scaled.icon.size(), plain.icon.size() * 2);
+    EXPECT_THAT(test::differences(tree, test::treeOf(m_mac.root())), IsEmpty());
+}
+
+TEST_F(Picture, StaysOfModestSizeForAHugeLaunchpad) {
+    const QImage usual = draw();
+    ASSERT_TRUE(writeLargeDatabase(m_mac.root(), m_mac.launchpadDatabase(), 3000, TitleStyle::styled));
+    const QImage huge = draw();
+    EXPECT_LT(huge.height(), 12000);
+    EXPECT_GT(m_map.spots.size(), 12u * 35);
+    EXPECT_LT(m_map.spots.size(), 12u * 35 + 40);
+}
+
+TEST_F(Picture, SaysWhichStoreCannotBeRead) {
+    ASSERT_TRUE(PracticeFileManager(m_mac.root()).remove(MacPath("/Users/practice/Library/Preferences")));
+    const auto picture = drawPicture(m_mac.root());
+    ASSERT_FALSE(picture);
+    EXPECT_THAT(picture.error().description, testing::HasSubstr("com.apple.dock.plist"));
+}
