@@ -1,7 +1,7 @@
 #include "practice/art/Glyph.h"
 
 #include "practice/art/GlyphPath.h"
-#include "practice/art/glyphs/Glyphs.h"
+#include "practice/art/Glyphs.h"
 
 #include <QPainterPathStroker>
 #include <QTransform>

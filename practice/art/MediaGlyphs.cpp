@@ -1,4 +1,4 @@
-#include "practice/art/glyphs/Glyphs.h"
+#include "practice/art/Glyphs.h"
 
 namespace tavrik::practice {
 
