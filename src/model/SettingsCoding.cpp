@@ -118,8 +118,11 @@ std::optional<HiddenFlagApp> decode(const plist::Value& value) {
 }
 
 plist::Dictionary encode(const DockBookmark& bookmark) {
-    return {
+    plist::Dictionary fields{
         {"bundleID", bookmark.bundleID}, {"bookmark", bookmark.bookmark}, {"isOriginal", bookmark.isOriginal}};
+    if (bookmark.fileModDate)
+        fields.emplace("fileModDate", *bookmark.fileModDate);
+    return fields;
 }
 
 template<>
@@ -129,7 +132,9 @@ std::optional<DockBookmark> decode(const plist::Value& value) {
     const auto isOriginal = field<bool>(value, "isOriginal");
     if (!bundleID || !bookmark || !isOriginal)
         return std::nullopt;
-    return DockBookmark{std::move(*bundleID), std::move(*bookmark), *isOriginal};
+    const plist::Value* date = value.find("fileModDate");
+    return DockBookmark{std::move(*bundleID), std::move(*bookmark), *isOriginal,
+                        date ? std::optional(*date) : std::nullopt};
 }
 
 plist::Dictionary encode(const SwapRecord& record) {

@@ -3,6 +3,7 @@
 #include "model/RowID.h"
 #include "platform/Bytes.h"
 #include "platform/Date.h"
+#include "platform/PropertyList.h"
 
 #include <cstdint>
 #include <optional>
@@ -55,6 +56,7 @@ struct DockBookmark {
     std::string bundleID;
     Bytes bookmark;
     bool isOriginal = true;
+    std::optional<plist::Value> fileModDate{}; ///< the tile's date then, in whatever form it had
 
     bool operator==(const DockBookmark&) const = default;
 };

@@ -85,6 +85,9 @@ bool DockManager::restoreDockEntry(const std::string& bundleID) {
         tile.setURL(m_mac.bookmarks.fileURL(*target));
     else
         log("Failed to resolve bookmark: " + target.error().description);
+    // The wrapper's date would say that the application had changed.
+    if (saved->fileModDate)
+        tile.setModified(*saved->fileModDate);
     log("Restored original Dock entry for " + bundleID);
 
     dock::raiseModCount(*dock);
@@ -221,7 +224,11 @@ bool DockManager::keepFirstBookmark(const std::string& bundleID, const dock::Til
     // A tile that already opens a wrapper has no first bookmark to offer.
     if (const Result<MacPath> target = m_mac.bookmarks.resolve(*first); target && isWrapperPath(*target))
         return true;
-    m_settings.saveDockBookmark({.bundleID = bundleID, .bookmark = *first, .isOriginal = true});
+    const plist::Value* date = tile.modified();
+    m_settings.saveDockBookmark({.bundleID = bundleID,
+                                 .bookmark = *first,
+                                 .isOriginal = true,
+                                 .fileModDate = date ? std::optional(*date) : std::nullopt});
     if (!m_settings.getDockBookmark(bundleID)) {
         log("ERROR: Failed to save original Dock bookmark for " + bundleID);
         return false;

@@ -8,6 +8,8 @@ namespace tavrik::dock {
 
 namespace {
 
+constexpr const char* kModified = "file-mod-date";
+
 template<typename T>
 const T* entry(const plist::Dictionary& data, std::string_view key) {
     const auto found = data.find(key);
@@ -24,6 +26,11 @@ const Bytes* Tile::bookmark() const {
     return entry<Bytes>(*m_data, "book");
 }
 
+const plist::Value* Tile::modified() const {
+    const auto found = m_data->find(kModified);
+    return found == m_data->end() ? nullptr : &found->second;
+}
+
 void Tile::setBookmark(const Bytes& bookmark) {
     m_data->insert_or_assign("book", bookmark);
 }
@@ -36,7 +43,11 @@ void Tile::setURL(std::string_view url) {
 }
 
 void Tile::setModified(Date date) {
-    m_data->insert_or_assign("file-mod-date", static_cast<std::int64_t>(std::floor(date.sinceReference)));
+    setModified(plist::Value(static_cast<std::int64_t>(std::floor(date.sinceReference))));
+}
+
+void Tile::setModified(const plist::Value& recorded) {
+    m_data->insert_or_assign(kModified, recorded);
 }
 
 std::vector<Tile> appTiles(plist::Value& preferences) {

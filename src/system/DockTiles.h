@@ -27,12 +27,15 @@ public:
     /// Null when it is missing or not of its type.
     const std::string* bundleID() const;
     const Bytes* bookmark() const;
+    const plist::Value* modified() const; ///< of any type
 
     void setBookmark(const Bytes& bookmark);
     /// Makes the tile's "file-data" when it has none.
     void setURL(std::string_view url);
-    /// In whole seconds, rounded down.
+    /// In whole seconds since 2001, rounded down.
     void setModified(Date date);
+    /// As `modified` gave it.
+    void setModified(const plist::Value& recorded);
 
 private:
     plist::Dictionary* m_data = nullptr;

@@ -115,7 +115,7 @@ TEST_F(SettingsManagerTest, ReadsAWrongTypeAsNone) {
 }
 
 TEST_F(SettingsManagerTest, BringsEveryRecordBackAsItWasSaved) {
-    const DockBookmark bookmark{"com.example.atlas", {0, 1, 255}, false};
+    const DockBookmark bookmark{"com.example.atlas", {0, 1, 255}, false, plist::Value(20495065241267)};
     settings.saveDockBookmark(bookmark);
     settings.saveMapping("com.example.atlas", RowID{1LL << 40}, RowID{-3});
     settings.saveHiddenFlagApp("com.apple.a", 0x80000080, RowID{4}, RowID{5}, false);

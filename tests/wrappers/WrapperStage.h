@@ -99,8 +99,6 @@ protected:
         auto& root = *preferences.as<plist::Dictionary>();
         root.erase("mod-count");
         root.erase("RecentlyUsedApps");
-        for (plist::Value& tile : *root["persistent-apps"].as<plist::Array>())
-            tile.find("tile-data")->as<plist::Dictionary>()->erase("file-mod-date");
         return preferences;
     }
 
