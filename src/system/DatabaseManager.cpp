@@ -38,7 +38,7 @@ constexpr const char* kEntries = "    SELECT i.rowid, i.flags, i.parent_id, i.or
                                  "    JOIN apps a ON i.rowid = a.item_id\n"
                                  "    WHERE a.bundleid = ?";
 
-/// The columns that the program reads or writes.
+/// A table with the columns of it that the program reads or writes.
 struct Table {
     const char* name;
     std::vector<const char*> columns;
@@ -103,7 +103,7 @@ std::vector<DatabaseManager::AppRow> DatabaseManager::loadLaunchpadApps() {
             DatabaseAppEntry entry{RowID{*rowID}, listing.int32(3), RowID{listing.int64(5).value_or(0)},
                                    listing.int32(6).value_or(0), std::move(*bookmark)};
             if (entry.isHidden() && identifier.starts_with("com.apple."))
-                hidden.push_back({identifier, *entry.flags, entry.rowID});
+                hidden.push_back({identifier, *entry.flags, entry.rowID, isWrapperPath(*path)});
             apps.emplace_back(describe(std::move(*title), std::move(identifier), *path), std::move(entry));
         }
         if (step == sqlite::Step::failed)
@@ -139,19 +139,18 @@ ApplicationInfo DatabaseManager::describe(std::string title, std::string bundleI
     return app;
 }
 
-/// All in one write. After a swap it is the wrapper's row that carries the flag: what is recorded about the
-/// original then stays as it is.
+/// All in one write. A wrapper's row that is known stays known; and when it is the wrapper's row that carries
+/// the flag, after a swap, what is recorded about the original stays as it is.
 void DatabaseManager::recordHiddenApps(const std::vector<HiddenRow>& rows) {
     if (rows.empty())
         return;
     const auto known = m_settings.getAllHiddenFlagApps();
     std::vector<std::pair<std::string, HiddenFlagApp>> apps;
     for (const HiddenRow& row : rows) {
-        const auto earlier = known.find(row.bundleID);
-        const bool isKnown = earlier != known.end();
-        if (isKnown && earlier->second.tavrikRowID == row.rowID)
+        if (row.isWrapper)
             continue;
-        const bool isSameRow = isKnown && earlier->second.originalRowID == row.rowID;
+        const auto earlier = known.find(row.bundleID);
+        const bool isSameRow = earlier != known.end() && earlier->second.originalRowID == row.rowID;
         apps.push_back(
             {row.bundleID,
              {row.flags, row.rowID, isSameRow ? earlier->second.tavrikRowID : std::nullopt, true, {}}});

@@ -62,6 +62,7 @@ private:
         std::string bundleID;
         std::int32_t flags;
         RowID rowID;
+        bool isWrapper;
     };
 
     ApplicationInfo describe(std::string title, std::string bundleID, const MacPath& path) const;
