@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
+#include <iostream>
 #include <optional>
 
 namespace {
@@ -55,14 +55,14 @@ Word listen(std::optional<SteadyClock::time_point> until) {
 int main(int count, char** arguments) {
     const auto root = volumeOfProgram(count > 0 ? arguments[0] : "", tavrik::practice::kDockProgram);
     if (!root) {
-        std::fputs("Dock: started from outside a practice Mac\n", stderr);
+        std::cerr << "Dock: started from outside a practice Mac\n";
         return 1;
     }
     const auto started = SteadyClock::now();
     Dock dock(*root);
     const auto record = ProcessRecord::claim(*root, kDockProgram.name());
     if (!record) {
-        std::fputs("Dock: cannot record the process\n", stderr);
+        std::cerr << "Dock: cannot record the process\n";
         return 1;
     }
 

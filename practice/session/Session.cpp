@@ -10,7 +10,7 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <cstdio>
+#include <iostream>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -83,8 +83,7 @@ void Session::State::keep() {
         }
     }
     if (failures == kMostImmediateFailures)
-        std::fprintf(stderr, "practice Mac: the Dock at %s fails at every start, giving up\n",
-                     root.string().c_str());
+        std::cerr << "practice Mac: the Dock at " + root.string() + " fails at every start, giving up\n";
     turn.reset();
     {
         const std::lock_guard lock(mutex);

@@ -30,7 +30,7 @@ Status registerBundle(FileManager& files, const MacPath& path) {
 
 Status unregisterBundle(FileManager& files, const MacPath& path) {
     bool wasRegistered = false;
-    const Status changed = changePathList(files, kRegisteredBundles, [&](std::vector<MacPath>& paths) {
+    Status changed = changePathList(files, kRegisteredBundles, [&](std::vector<MacPath>& paths) {
         wasRegistered = std::erase(paths, path) > 0;
         return wasRegistered;
     });

@@ -3,7 +3,7 @@
 #include "practice/process/ProgramPlace.h"
 #include "practice/tools/SystemTools.h"
 
-#include <cstdio>
+#include <iostream>
 
 /// All system tools of a practice Mac in one program: it acts by the path that it was started by.
 int main(int count, char** arguments) {
@@ -19,10 +19,10 @@ int main(int count, char** arguments) {
                                                 return signalProcesses(*root, name, signal);
                                             }};
         const ToolAnswer answer = runSystemTool(surroundings, tool, {arguments + 1, arguments + count});
-        std::fwrite(answer.output.data(), 1, answer.output.size(), stdout);
-        std::fwrite(answer.errors.data(), 1, answer.errors.size(), stderr);
+        std::cout << answer.output;
+        std::cerr << answer.errors;
         return answer.exitStatus;
     }
-    std::fprintf(stderr, "%s: not a tool of a practice Mac\n", startedBy);
+    std::cerr << startedBy << ": not a tool of a practice Mac\n";
     return 127;
 }
