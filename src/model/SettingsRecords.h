@@ -70,8 +70,9 @@ struct ItemPlacement {
     bool operator==(const ItemPlacement&) const = default;
 };
 
-/// Both rows' placement, noted durably before they are exchanged. An exchange is its own inverse, so a repeat
-/// after a kill looks here first and at the rows second, and never exchanges twice.
+/// Where both rows stand while the original is in its own place, noted durably before they are exchanged in
+/// either direction and kept until the whole creation or removal is done. An exchange is its own inverse, so a
+/// repeat after a kill looks here first and at the rows second, and never exchanges twice.
 struct SwapRecord {
     RowID originalRowID{};
     ItemPlacement original;

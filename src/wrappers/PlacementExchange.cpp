@@ -48,7 +48,7 @@ bool PlacementExchange::swapBack(const std::string& bundleID, RowID original, Ro
 
 bool PlacementExchange::swapBackIfThere(const std::string& bundleID, RowID original, RowID wrapper) {
     if (!placesOf(bundleID, original, wrapper))
-        return m_database.missingColumns().has_value();
+        return canTell();
     return swapBack(bundleID, original, wrapper);
 }
 
@@ -81,6 +81,12 @@ void PlacementExchange::finish(const std::string& bundleID) {
         m_settings.removeSwapRecord(bundleID);
 }
 
+/// Whether rows that were not found are really not there.
+bool PlacementExchange::canTell() const {
+    const auto missing = m_database.missingColumns();
+    return missing && missing->empty();
+}
+
 std::optional<PlacementExchange::Places> PlacementExchange::placesOf(const std::string& bundleID,
                                                                      RowID original, RowID wrapper) const {
     const auto entries = m_database.appEntries(bundleID);
@@ -95,7 +101,7 @@ PlacementExchange::State PlacementExchange::stateOf(const std::string& bundleID,
                                                     const SwapRecord& record) const {
     const auto now = placesOf(bundleID, record.originalRowID, record.tavrikRowID);
     if (!now)
-        return m_database.missingColumns() ? State::gone : State::unreadable;
+        return canTell() ? State::gone : State::unreadable;
     if (isSame(*now, {record.original, record.tavrik}))
         return State::home;
     if (isSame(*now, {record.tavrik, record.original}))

@@ -54,6 +54,7 @@ private:
         unreadable, ///< the database does not say
     };
 
+    bool canTell() const;
     static bool isSame(const Places& now, const Places& then);
     std::optional<Places> placesOf(const std::string& bundleID, RowID original, RowID wrapper) const;
     State stateOf(const std::string& bundleID, const SwapRecord& record) const;
