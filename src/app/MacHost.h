@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+namespace tavrik {
+
+struct Mac;
+
+/// The Mac that this process works on, chosen when the program is built: the real one on macOS, elsewhere the
+/// practice Mac.
+class MacHost {
+public:
+    virtual ~MacHost() = default;
+
+    virtual Mac& mac() = 0;
+
+    /// Makes sure that the Mac's session runs, so that the Dock indexes and comes back after a restart. A real
+    /// Mac's always does. Called before the first change; may take a second.
+    virtual void startSession() = 0;
+};
+
+} // namespace tavrik

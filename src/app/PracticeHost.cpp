@@ -1,0 +1,49 @@
+#include "app/PracticeHost.h"
+
+#include "platform/practice/PracticeMac.h"
+#include "practice/furnish/Furnish.h"
+#include "practice/session/Session.h"
+
+#include <QCoreApplication>
+
+namespace tavrik {
+
+namespace {
+
+practice::Programs programs() {
+    return {.tool = programsFolder() / "practice-tool", .dock = programsFolder() / "practice-dock"};
+}
+
+class PracticeHost : public MacHost {
+public:
+    explicit PracticeHost(const HostPath& root) : m_mac(root) {}
+
+    Mac& mac() override { return m_mac.mac(); }
+
+    void startSession() override {
+        if (!m_session)
+            m_session = std::make_unique<practice::Session>(m_mac.root());
+    }
+
+private:
+    practice::PracticeMac m_mac;
+    std::unique_ptr<practice::Session> m_session;
+};
+
+} // namespace
+
+HostPath programsFolder() {
+    return HostPath(QCoreApplication::applicationDirPath().toStdString());
+}
+
+Result<std::unique_ptr<MacHost>> openPracticeMac(const HostPath& root) {
+    if (Status furnished = practice::furnish(root, programs()); !furnished)
+        return furnished.error();
+    return std::unique_ptr<MacHost>(std::make_unique<PracticeHost>(root));
+}
+
+Status resetPracticeMac(const HostPath& root) {
+    return practice::furnishAnew(root, programs());
+}
+
+} // namespace tavrik

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/MacHost.h"
+#include "platform/Path.h"
+#include "platform/Result.h"
+
+#include <memory>
+
+namespace tavrik {
+
+/// The programs of the build that stand for programs of a Mac lie in this folder, beside the program that asks.
+HostPath programsFolder();
+
+/// Opens the practice Mac in this folder, furnishing it on first use. An error, in a sentence, when the folder
+/// holds something else or cannot be made.
+Result<std::unique_ptr<MacHost>> openPracticeMac(const HostPath& root);
+
+/// Puts the practice Mac of this folder away and furnishes a new one.
+Status resetPracticeMac(const HostPath& root);
+
+} // namespace tavrik

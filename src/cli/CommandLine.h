@@ -1,0 +1,36 @@
+#pragma once
+
+#include "cli/Command.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <vector>
+
+namespace tavrik {
+
+/// The companion's sub-commands as the command line declares them.
+class CommandLine {
+public:
+    CommandLine();
+
+    CLI::App& parser() { return m_parser; }
+
+    /// The command that the parsed line names.
+    Command& chosen() const { return *m_chosen; }
+
+    /// Whether standard output is for a program, so that log lines go elsewhere.
+    bool wantsJson() const { return m_json; }
+
+private:
+    template<typename T, typename... Arguments>
+    T& add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
+           Arguments... arguments);
+    void addJson(CLI::App& command, bool& json);
+
+    CLI::App m_parser;
+    std::vector<std::unique_ptr<Command>> m_commands;
+    Command* m_chosen = nullptr;
+    bool m_json = false;
+};
+
+} // namespace tavrik

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/ApplicationInfo.h"
+#include "model/SettingsRecords.h"
+#include "system/DockManager.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// Records as programs read them: a list is an array, a record an object whose keys are the record's field
+/// names. Dates are ISO 8601 in UTC, paths are the Mac's, and an application's icon is the bundle that it is
+/// read from.
+namespace tavrik {
+
+QJsonArray toJson(const std::vector<ApplicationInfo>& apps);
+QJsonArray toJson(const std::vector<DockApp>& apps);
+/// Each with its "bundleID".
+QJsonArray toJson(const std::map<std::string, TavrikMapping>& mappings);
+
+std::string jsonText(const QJsonArray& array);
+
+} // namespace tavrik

@@ -1,0 +1,51 @@
+#include "cli/PracticeCommands.h"
+
+#include "app/PracticeHost.h"
+#include "cli/Companion.h"
+#include "cli/HostFile.h"
+#include "practice/picture/Picture.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+
+namespace tavrik {
+
+ExitCode PictureCommand::run(Companion& companion) {
+    if (!companion.open())
+        return ExitCode::failed;
+    const practice::PictureOptions options{
+        .scale = static_cast<double>(scale),
+        .appearance = dark ? practice::Appearance::dark : practice::Appearance::light,
+    };
+    const Result<QImage> drawn = practice::drawPicture(companion.practiceRoot(), options);
+    if (!drawn)
+        return companion.fail(drawn.error().description);
+    QBuffer png;
+    QImageWriter writer(&png, "png");
+    writer.setQuality(88); // deflate level 1: quick, and nearly as small
+    if (!png.open(QIODevice::WriteOnly) || !writer.write(*drawn))
+        return companion.fail("The picture could not be coded: " + writer.errorString().toStdString() + ".");
+    const QByteArray& data = png.data();
+    const HostPath target(file);
+    if (Status written =
+            writeHostFile(target, bytesOf({data.constData(), static_cast<std::size_t>(data.size())}));
+        !written)
+        return companion.fail(written.error().description);
+    return ExitCode::done;
+}
+
+ExitCode PracticeWhereCommand::run(Companion& companion) {
+    if (!companion.open())
+        return ExitCode::failed;
+    companion.say(companion.practiceRoot().string());
+    return ExitCode::done;
+}
+
+ExitCode PracticeResetCommand::run(Companion& companion) {
+    if (Status reset = resetPracticeMac(companion.practiceRoot()); !reset)
+        return companion.fail(reset.error().description);
+    companion.say("A new practice Mac stands in " + companion.practiceRoot().string() + ".");
+    return ExitCode::done;
+}
+
+} // namespace tavrik

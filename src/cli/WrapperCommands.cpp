@@ -1,0 +1,70 @@
+#include "cli/WrapperCommands.h"
+
+#include "cli/AppLookup.h"
+#include "cli/Companion.h"
+#include "cli/HostFile.h"
+#include "icons/ImageIntake.h"
+
+namespace tavrik {
+
+ExitCode WrapperIconCommand::run(Companion& companion) {
+    // The picture comes first: it needs no Mac, and a wrong one must not cost a second.
+    const HostPath file(picture);
+    const Result<Bytes> content = readHostFile(file);
+    if (!content)
+        return companion.fail(content.error().description);
+    const Result<QImage> read = readPicture(*content, file.name());
+    if (!read)
+        return companion.fail(read.error().description);
+    const std::optional<QImage> square = IconManager::squareIcon(*read);
+    if (!square)
+        return companion.fail(file.string() +
+                              " could not be brought to icon size; there may be too little memory.");
+
+    if (!companion.open())
+        return ExitCode::failed;
+    Managers& managers = companion.managers();
+    const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
+    if (!app)
+        return companion.fail(app.error().description);
+    if (const std::string why = refusal(*app, managers.unsupported.contains(bundleID)); !why.empty())
+        return companion.refuse(why);
+
+    const bool isMapped = managers.settings.getMapping(bundleID).has_value();
+    if (m_kind == Kind::update && !isMapped)
+        companion.say(app->name + " has no wrapper yet, so one is made.");
+
+    companion.host().startSession();
+    const bool done = m_kind == Kind::update ? managers.wrappers.updateWrapperIcon(*app, *square)
+                                             : managers.wrappers.createWrapper(*app, *square);
+    if (!done) {
+        return companion.fail(
+            app->name + " was not restyled; the lines above say at which step it failed. Its own bundle was "
+                        "not touched, and what had been built was taken away again.");
+    }
+    companion.say(app->name + (isMapped ? " shows the new picture." : " is restyled.") +
+                  " \"tavrikctl picture FILE.png\" draws it; \"tavrikctl wrapper remove " + bundleID +
+                  "\" undoes it.");
+    return ExitCode::done;
+}
+
+ExitCode WrapperRemoveCommand::run(Companion& companion) {
+    if (!companion.open())
+        return ExitCode::failed;
+    Managers& managers = companion.managers();
+    const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
+    if (!app)
+        return companion.fail(app.error().description);
+    if (!managers.settings.getMapping(bundleID))
+        return companion.refuse(app->name + " has no wrapper, so there is nothing to remove.");
+
+    companion.host().startSession();
+    if (!managers.wrappers.removeWrapper(*app, RestartDock::yes)) {
+        return companion.fail("Not every step of giving " + app->name +
+                              " its own look back went well; the lines above say which.");
+    }
+    companion.say(app->name + " has its own look back.");
+    return ExitCode::done;
+}
+
+} // namespace tavrik

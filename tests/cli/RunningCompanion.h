@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Path.h"
+#include "platform/PosixFileManager.h"
+#include "platform/Tools.h"
+#include "support/FileTree.h"
+#include "support/TemporaryFolder.h"
+
+#include <QJsonArray>
+
+#include <string>
+#include <vector>
+
+namespace tavrik::test {
+
+/// The real program on a practice Mac of its own, furnished by the first call.
+class RunningCompanion {
+public:
+    RunningCompanion();
+    ~RunningCompanion();
+
+    ToolResult run(const std::vector<std::string>& arguments) const;
+
+    /// The same for a command that answers with JSON alone on standard output.
+    QJsonArray json(const std::vector<std::string>& arguments) const;
+
+    /// The volume's folder.
+    HostPath root() const;
+
+    /// A file of this test's own outside the volume.
+    HostPath file(const std::string& name, ByteView content) const;
+
+    /// What a person could lose: both stores, the user's library, the wrapper folder and every application.
+    FileTree valuables() const;
+
+    /// Processes of the volume that are alive.
+    int livingProcesses() const;
+
+private:
+    TemporaryFolder m_folder;
+    std::string m_earlierDataHome;
+};
+
+} // namespace tavrik::test
