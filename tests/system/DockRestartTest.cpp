@@ -59,6 +59,12 @@ struct StubbornWorkspace : Workspace {
     bool isClear = false;
 };
 
+Mac macOf(SmallMac& small, Workspace& workspace, Journal& journal) {
+    return {small.mac.volume, small.mac.files,  small.mac.bookmarks, workspace,
+            journal,          journal,          small.mac.defaults,  small.mac.machine,
+            journal,          small.mac.alerts, small.mac.random};
+}
+
 } // namespace
 
 TEST(DockRestart, SyncsThePreferencesThenKillsInThisOrderEvenWhenNoToolCanBeStarted) {
@@ -113,9 +119,7 @@ TEST(CustomIcon, TriesThreeTimesAndSaysSo) {
         Journal journal;
         StubbornWorkspace workspace;
         workspace.refusals = each.refusals;
-        Mac mac{small.mac.volume, small.mac.files,  small.mac.bookmarks, workspace,
-                journal,          journal,          small.mac.defaults,  small.mac.machine,
-                journal,          small.mac.alerts, small.mac.random};
+        Mac mac = macOf(small, workspace, journal);
         LogRecorder log;
         EXPECT_EQ(IconManager(mac).setCustomIcon(each.icon, MacPath("/a")), each.isSet);
         EXPECT_EQ(log.lines(), each.lines);

@@ -225,21 +225,17 @@ TEST_F(Lifecycle, UpdatesAnIconAndRebuildsAWrapperThatWasDeleted) {
     EXPECT_EQ(clock.waits(), joined(Waits{200ms, 200ms}, kRestart));
 }
 
-TEST_F(Lifecycle, RefreshesAWrapperOrPutsTheOriginalBack) {
+TEST_F(Lifecycle, RepairsWhatItCanWhenTheWrapperOrTheSavedBookmarkIsGone) {
     ASSERT_TRUE(wrappers().createWrapper(atlas, redIcon()));
     wrappers().refreshWrapper(atlas);
     EXPECT_TRUE(log.has("Ensuring icon sync for org.example.atlas"));
-    expectSwapped(atlas);
-
     ASSERT_TRUE(mac.files.remove(wrapperOf(atlas)));
     ASSERT_TRUE(mac.files.remove(kWrappers / kWarning));
     wrappers().refreshWrapper(atlas);
     EXPECT_TRUE(log.has("WARNING: Tavrik app missing for org.example.atlas, cleaning up mapping"));
     program->launchpad.restartDock();
     expectUntouched(atlas);
-}
 
-TEST_F(Lifecycle, ForcesADockTileBackThatHasNoSavedBookmark) {
     ASSERT_TRUE(wrappers().createWrapper(atlas, redIcon()));
     program->settings.removeDockBookmark(atlas.bundleID);
     EXPECT_TRUE(wrappers().removeWrapper(atlas, RestartDock::no));
