@@ -35,8 +35,9 @@ enum class RestartDock { no, yes };
 /// a creation or removal had exchanged is known from the record on disk (see PlacementExchange), is put back
 /// first, and everything is then done anew. `isUnfinished` tells that a repeat is needed.
 ///
-/// Applications that cannot be restyled, whose wrapper has no safe file name, or whose wrapper or wrapper
-/// folder is a symbolic link are refused by every operation with a log line and nothing changed.
+/// Applications that cannot be restyled are refused a creation. Applications whose wrapper has no safe file
+/// name, or whose wrapper or wrapper folder is a symbolic link, are refused every operation. Both with a log
+/// line and nothing changed.
 class TavrikAppManager {
 public:
     TavrikAppManager(Mac& mac, SettingsManager& settings, DatabaseManager& database, DockManager& dock,
