@@ -29,7 +29,7 @@ QImage emptyCanvas(int size) {
 void layDown(QPainter& painter, const QImage& layer, const QColor& shadow, double blur, double drop) {
     const int size = layer.width();
     if (size >= kSmallestShadow)
-        painter.drawImage(QPointF(0, drop * size), softShadow(layer, blur * size, shadow));
+        drawSoftShadow(painter, QRectF(0, drop * size, size, size), layer, blur * size, shadow);
     painter.drawImage(0, 0, layer);
 }
 

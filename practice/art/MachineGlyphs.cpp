@@ -44,7 +44,7 @@ std::vector<Glyph> machineGlyphs() {
                 "C 23 71 27 67 27 61 C 27 55 23 51 17 51 C 15 51 14 51 12 52 C 10 53 8 52 8 50 Z")}},
         {"bolt", {solid(main, 5, "M 58 4 L 18 56 H 44 L 36 96 L 82 40 H 54 Z")}},
         {"cloud",
-         {fill(main, "O 28 62 24 O 50 42 28 O 74 60 22 R 28 56 46 30 10"),
+         {fill(main, "O 28 62 24 O 50 42 28 O 74 64 22 R 28 56 46 30 0"),
           line(accent, kBold, "M 50 50 V 74 M 39 63 L 50 75 L 61 63")}},
         {"shield",
          {solid(main, 5,

@@ -16,7 +16,7 @@ std::vector<Glyph> natureGlyphs() {
           fill(accent, "M 74 22 L 78 34 L 90 38 L 78 42 L 74 54 L 70 42 L 58 38 L 70 34 Z")}},
         {"weather",
          {line(accent, 6, "M 66 4 V 10 M 92 16 L 88 20 M 98 42 H 92 M 40 16 L 44 20"),
-          fill(accent, "O 66 40 23"), fill(main, "O 26 68 20 O 46 54 23 O 70 68 18 R 26 62 44 26 10")}},
+          fill(accent, "O 66 40 23"), fill(main, "O 26 68 20 O 46 54 23 O 70 70 18 R 26 62 44 26 0")}},
         {"flame",
          {fill(main, "M 52 2 C 56 22 84 36 84 64 C 84 84 68 98 50 98 C 32 98 16 84 16 64 C 16 50 24 42 30 32 C "
                      "34 42 38 46 42 46 C 50 "
@@ -39,7 +39,7 @@ std::vector<Glyph> natureGlyphs() {
          {solid(main, 3, "M 7 6 L 38 28 H 62 L 93 6 L 96 48 L 50 94 L 4 48 Z"),
           solid(detail, 2, "M 5 50 C 20 48 34 56 44 76 L 50 92 Z M 95 50 C 80 48 66 56 56 76 L 50 92 Z"),
           fill(shade, "M 7 6 L 28 22 L 12 34 Z M 93 6 L 72 22 L 88 34 Z"), fill(soft, "O 33 52 5 O 67 52 5"),
-          solid(soft, 5, "M 44 86 H 56 L 50 93 Z")}},
+          fill(soft, "E 50 90 7.5 6")}},
         {"bird",
          {fill(accent, "M 80 26 L 99 32 L 80 40 Z"), fill(soft, "M 4 74 L 34 58 L 40 76 Z"),
           fill(main, "M 66 14 C 80 14 86 24 86 36 C 86 64 68 84 42 84 C 28 84 18 78 12 70 C 32 70 46 58 48 38 "

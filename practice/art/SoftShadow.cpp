@@ -1,7 +1,5 @@
 #include "practice/art/SoftShadow.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -41,7 +39,8 @@ void blurAlpha(QImage& alpha, int radius) {
 
 } // namespace
 
-QImage softShadow(const QImage& picture, double blur, const QColor& colour) {
+void drawSoftShadow(QPainter& painter, const QRectF& place, const QImage& picture, double blur,
+                    const QColor& colour) {
     // A wide blur has no fine structure: a smaller picture, scaled up again, looks the same and costs little.
     const double reduction = std::max(1.0, blur / 6);
     const QSize small(std::max(1, qRound(picture.width() / reduction)),
@@ -52,11 +51,14 @@ QImage softShadow(const QImage& picture, double blur, const QColor& colour) {
 
     QImage shadow(small, QImage::Format_ARGB32_Premultiplied);
     shadow.fill(colour);
-    QPainter painter(&shadow);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.drawImage(0, 0, alpha);
-    painter.end();
-    return shadow.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter cutter(&shadow);
+    cutter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    cutter.drawImage(0, 0, alpha);
+    cutter.end();
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, shadow);
+    painter.restore();
 }
 
 } // namespace tavrik::practice

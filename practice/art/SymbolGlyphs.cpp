@@ -44,8 +44,8 @@ std::vector<Glyph> symbolGlyphs() {
         {"application-sheet",
          {fill(main,
                "M 22 2 H 62 L 88 28 V 86 C 88 94 83 99 75 99 H 22 C 14 99 9 94 9 86 V 15 C 9 7 14 2 22 2 Z"),
-          fill(soft, "M 62 2 L 88 28 H 70 C 65 28 62 25 62 20 Z"), line(soft, 4, "R 28 42 41 41 11"),
-          line(soft, 4, "M 39 63 L 46 70 L 59 54")}},
+          fill(soft, "M 62 2 L 88 28 H 70 C 65 28 62 25 62 20 Z"),
+          fill(soft, "R 28 46 17 17 5 R 52 46 17 17 5 R 28 70 17 17 5"), fill(accent, "R 52 70 17 17 5")}},
     };
 }
 

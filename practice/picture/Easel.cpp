@@ -79,7 +79,7 @@ void Easel::drawPanel(const QRectF& bounds, double corner) {
     QPainterPath outside;
     outside.addRect(around);
     m_painter.setClipPath(outside.subtracted(outline));
-    m_painter.drawImage(around.topLeft(), softShadow(shape, kBlur, m_look.shadow));
+    drawSoftShadow(m_painter, QRectF(around.topLeft(), QSizeF(shape.size())), shape, kBlur, m_look.shadow);
     m_painter.restore();
 
     m_painter.setPen(QPen(m_look.panelBorder, 1));
