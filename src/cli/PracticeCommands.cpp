@@ -19,7 +19,7 @@ ExitCode PictureCommand::run(Companion& companion) {
     };
     const Result<QImage> drawn = practice::drawPicture(companion.practiceRoot(), options);
     if (!drawn)
-        return companion.fail(drawn.error().description);
+        return companion.fail("The picture cannot be drawn: " + drawn.error().description);
     QBuffer png;
     QImageWriter writer(&png, "png");
     writer.setQuality(88); // deflate level 1: quick, and nearly as small

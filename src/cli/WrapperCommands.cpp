@@ -7,6 +7,15 @@
 
 namespace tavrik {
 
+namespace {
+
+/// A database that is locked now would cost a creation its wrapper and a removal its place in Launchpad.
+constexpr const char* kLocked =
+    "The Launchpad database is locked by another program, so nothing was changed. Close that "
+    "program, or try again in a moment.";
+
+} // namespace
+
 ExitCode WrapperIconCommand::run(Companion& companion) {
     // The picture comes first: it needs no Mac, and a wrong one must not cost a second.
     const HostPath file(picture);
@@ -30,7 +39,10 @@ ExitCode WrapperIconCommand::run(Companion& companion) {
     if (const std::string why = refusal(*app, managers.unsupported.contains(bundleID)); !why.empty())
         return companion.refuse(why);
 
-    const bool isMapped = managers.settings.getMapping(bundleID).has_value();
+    if (!managers.launchpadDatabase.isWritable())
+        return companion.refuse(kLocked);
+
+    const bool isMapped = managers.wrappers.hasWrapper(bundleID);
     if (m_kind == Kind::update && !isMapped)
         companion.say(app->name + " has no wrapper yet, so one is made.");
 
@@ -55,8 +67,10 @@ ExitCode WrapperRemoveCommand::run(Companion& companion) {
     const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
     if (!app)
         return companion.fail(app.error().description);
-    if (!managers.settings.getMapping(bundleID))
+    if (!managers.settings.getMapping(bundleID) && !managers.wrappers.isUnfinished(bundleID))
         return companion.refuse(app->name + " has no wrapper, so there is nothing to remove.");
+    if (!managers.launchpadDatabase.isWritable())
+        return companion.refuse(kLocked);
 
     companion.host().startSession();
     if (!managers.wrappers.removeWrapper(*app, RestartDock::yes)) {

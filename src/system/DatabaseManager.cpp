@@ -234,6 +234,11 @@ std::optional<std::vector<std::string>> DatabaseManager::missingColumns() {
     return missing;
 }
 
+bool DatabaseManager::isWritable() {
+    auto connection = openDatabase(m_mac.volume, launchpadDatabasePath(), sqlite::OpenMode::readWrite);
+    return connection && sqlite::Transaction(*connection, "BEGIN EXCLUSIVE TRANSACTION").isOpen();
+}
+
 // What a path tells
 
 bool DatabaseManager::isIOSApp(const MacPath& path) const {

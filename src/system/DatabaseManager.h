@@ -46,6 +46,10 @@ public:
     /// database cannot be read.
     std::optional<std::vector<std::string>> missingColumns();
 
+    /// Whether a change could begin now. False while another program has a transaction open, and when there is
+    /// no database. Changes nothing.
+    bool isWritable();
+
     MacPath launchpadDatabasePath() const;
 
     bool isIOSApp(const MacPath& path) const;
