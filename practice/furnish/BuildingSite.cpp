@@ -1,5 +1,7 @@
 #include "practice/furnish/BuildingSite.h"
 
+#include "practice/furnish/HostFiles.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <utility>
@@ -11,11 +13,11 @@ Result<BuildingSite> BuildingSite::claim(const HostPath& root) {
     for (;;) {
         if (Status made = createHostFolder(folder, 0700); !made)
             return made.error();
-        Result<HostLock> lock = HostLock::take(folder);
-        if (!lock && lock.error().code != ENOENT)
-            return lock.error();
+        std::optional<FileLock> lock = FileLock::takeExisting(folder, FileLock::Wait::yes);
+        if (!lock && errno != ENOENT)
+            return hostError("lock", folder, lastError());
         // Whoever had the lock before may have moved or removed the folder meanwhile.
-        if (!lock || !lock->holds(folder))
+        if (!lock || !lock->isOf(folder))
             continue;
         BuildingSite site(folder, std::move(*lock));
         if (Status empty = site.clear(); !empty)
@@ -28,13 +30,13 @@ std::optional<BuildingSite> BuildingSite::tryClaim(const HostPath& root) {
     const HostPath folder = folderFor(root);
     if (!createHostFolder(folder, 0700))
         return std::nullopt;
-    std::optional<HostLock> lock = HostLock::tryTake(folder);
-    if (!lock || !lock->holds(folder))
+    std::optional<FileLock> lock = FileLock::takeExisting(folder, FileLock::Wait::no);
+    if (!lock || !lock->isOf(folder))
         return std::nullopt;
     return BuildingSite(folder, std::move(*lock));
 }
 
-BuildingSite::BuildingSite(HostPath folder, HostLock lock)
+BuildingSite::BuildingSite(HostPath folder, FileLock lock)
     : m_folder(std::move(folder)),
       m_lock(std::move(lock)) {}
 

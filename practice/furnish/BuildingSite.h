@@ -2,7 +2,7 @@
 
 #include "platform/Path.h"
 #include "platform/Result.h"
-#include "practice/furnish/HostFiles.h"
+#include "practice/process/FileLock.h"
 
 #include <optional>
 
@@ -30,11 +30,11 @@ public:
     static HostPath folderFor(const HostPath& root);
 
 private:
-    BuildingSite(HostPath folder, HostLock lock);
+    BuildingSite(HostPath folder, FileLock lock);
     Status clear() const;
 
     HostPath m_folder;
-    std::optional<HostLock> m_lock; ///< of the folder itself; gone when it was moved
+    std::optional<FileLock> m_lock; ///< of the folder itself; gone when it was moved
 };
 
 } // namespace tavrik::practice

@@ -1,7 +1,8 @@
 #include "practice/furnish/HostFiles.h"
 
+#include "platform/FileDescriptor.h"
+
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,26 +10,8 @@
 #include <cerrno>
 #include <cmath>
 #include <filesystem>
-#include <utility>
 
 namespace tavrik::practice {
-
-namespace {
-
-FileDescriptor openForLock(const HostPath& path) {
-    return FileDescriptor::open(AT_FDCWD, path.string(), O_RDONLY | O_NOFOLLOW);
-}
-
-/// 0 when the lock was taken.
-int lock(const FileDescriptor& descriptor, int operation) {
-    int outcome = 0;
-    do
-        outcome = ::flock(descriptor.number(), operation);
-    while (outcome != 0 && errno == EINTR);
-    return outcome;
-}
-
-} // namespace
 
 Error hostError(const char* action, const HostPath& path, std::error_code failure) {
     return {std::string("Cannot ") + action + " " + path.string() + ": " + failure.message(), failure.value()};
@@ -108,29 +91,6 @@ Status setHostDate(const HostPath& path, Date date) {
     if (::utimensat(AT_FDCWD, path.string().c_str(), times.data(), AT_SYMLINK_NOFOLLOW) == 0)
         return Done{};
     return hostError("date", path, lastError());
-}
-
-Result<HostLock> HostLock::take(const HostPath& path) {
-    FileDescriptor descriptor = openForLock(path);
-    if (!descriptor)
-        return hostError("open", path, lastError());
-    if (lock(descriptor, LOCK_EX) != 0)
-        return hostError("lock", path, lastError());
-    return HostLock(std::move(descriptor));
-}
-
-std::optional<HostLock> HostLock::tryTake(const HostPath& path) {
-    FileDescriptor descriptor = openForLock(path);
-    if (!descriptor || lock(descriptor, LOCK_EX | LOCK_NB) != 0)
-        return std::nullopt;
-    return HostLock(std::move(descriptor));
-}
-
-bool HostLock::holds(const HostPath& path) const {
-    struct stat mine{};
-    struct stat there{};
-    return ::fstat(m_descriptor.number(), &mine) == 0 && ::lstat(path.string().c_str(), &there) == 0 &&
-           mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
 }
 
 } // namespace tavrik::practice

@@ -2,15 +2,12 @@
 
 #include "platform/Bytes.h"
 #include "platform/Date.h"
-#include "platform/FileDescriptor.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
 #include <sys/types.h>
 
-#include <optional>
 #include <system_error>
-#include <utility>
 
 /// Plain files of the host, for building a volume from outside. Failures carry errno and name the path. Nothing
 /// is flushed: a furnished Mac can be furnished again.
@@ -34,22 +31,5 @@ Error hostError(const char* action, const HostPath& path, std::error_code failur
 
 /// The moment of last change in whole and broken seconds; the path itself, should it be a link.
 Status setHostDate(const HostPath& path, Date date);
-
-/// An advisory lock on a file or folder, gone with the process. Held until destruction.
-class HostLock {
-public:
-    /// Waits for it. An error when the path cannot be opened.
-    static Result<HostLock> take(const HostPath& path);
-    /// Nothing when another holds it or the path cannot be opened.
-    static std::optional<HostLock> tryTake(const HostPath& path);
-
-    /// Whether the locked thing still stands at this path.
-    bool holds(const HostPath& path) const;
-
-private:
-    explicit HostLock(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}
-
-    FileDescriptor m_descriptor;
-};
 
 } // namespace tavrik::practice

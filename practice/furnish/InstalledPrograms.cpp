@@ -2,6 +2,7 @@
 
 #include "platform/practice/Layout.h"
 #include "practice/furnish/HostFiles.h"
+#include "practice/process/FileLock.h"
 
 #include <unistd.h>
 
@@ -74,9 +75,9 @@ Status installPrograms(const HostPath& root, const Programs& programs, const Hos
             return content.error();
         if (areCurrent(root, installation.places, *content))
             continue;
-        const Result<HostLock> turn = HostLock::take(lock);
+        const auto turn = FileLock::takeExisting(lock, FileLock::Wait::yes);
         if (!turn)
-            return turn.error();
+            return hostError("lock", lock, lastError());
         if (areCurrent(root, installation.places, *content)) // made so by another program meanwhile
             continue;
         if (Status installed = install(root, installation.places, *content); !installed)

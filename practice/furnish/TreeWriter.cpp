@@ -1,5 +1,6 @@
 #include "practice/furnish/TreeWriter.h"
 
+#include "platform/FileDescriptor.h"
 #include "practice/furnish/HostFiles.h"
 
 #include <unistd.h>

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <utility>
@@ -9,6 +10,10 @@
 namespace tavrik::practice {
 
 namespace {
+
+FileDescriptor openExisting(const HostPath& path) {
+    return FileDescriptor::open(AT_FDCWD, path.string(), O_RDONLY | O_NOFOLLOW);
+}
 
 bool lock(const FileDescriptor& file, int operation) {
     int outcome = 0;
@@ -21,15 +26,29 @@ bool lock(const FileDescriptor& file, int operation) {
 } // namespace
 
 std::optional<FileLock> FileLock::take(const HostPath& file, Wait wait) {
-    FileDescriptor opened = FileDescriptor::open(AT_FDCWD, file.string(), O_RDWR | O_CREAT | O_NOFOLLOW, 0600);
+    return take(FileDescriptor::open(AT_FDCWD, file.string(), O_RDWR | O_CREAT | O_NOFOLLOW, 0600), wait);
+}
+
+std::optional<FileLock> FileLock::takeExisting(const HostPath& path, Wait wait) {
+    return take(openExisting(path), wait);
+}
+
+std::optional<FileLock> FileLock::take(FileDescriptor opened, Wait wait) {
     if (!opened || !lock(opened, wait == Wait::yes ? LOCK_EX : LOCK_EX | LOCK_NB))
         return std::nullopt;
     return FileLock(std::move(opened));
 }
 
 bool FileLock::isHeld(const HostPath& file) {
-    const FileDescriptor opened = FileDescriptor::open(AT_FDCWD, file.string(), O_RDONLY | O_NOFOLLOW);
+    const FileDescriptor opened = openExisting(file);
     return opened && !lock(opened, LOCK_SH | LOCK_NB) && errno == EWOULDBLOCK;
+}
+
+bool FileLock::isOf(const HostPath& path) const {
+    struct stat mine{};
+    struct stat there{};
+    return ::fstat(m_file.number(), &mine) == 0 && ::lstat(path.string().c_str(), &there) == 0 &&
+           mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
 }
 
 } // namespace tavrik::practice

@@ -7,21 +7,29 @@
 
 namespace tavrik::practice {
 
-/// An advisory lock on a file, held by an open descriptor: it goes with the object, and with the process
-/// however that ends. The file stays. Two locks exclude each other within one process too. Children do not
-/// inherit it.
+/// An advisory lock on a file or folder, held by an open descriptor: it goes with the object, and with the
+/// process however that ends. What is locked stays. Two locks exclude each other within one process too.
+/// Children do not inherit it.
 class FileLock {
 public:
     enum class Wait { no, yes };
 
     /// Makes the file when missing; its folder must exist. Nothing when that fails, or when somebody else holds
-    /// the lock and no wait is wanted.
+    /// the lock and no wait is wanted; errno says why.
     static std::optional<FileLock> take(const HostPath& file, Wait wait);
+
+    /// The same for a file or folder that stands. It makes none.
+    static std::optional<FileLock> takeExisting(const HostPath& path, Wait wait);
 
     /// Whether somebody holds the lock of a file. False also when there is no such file.
     static bool isHeld(const HostPath& file);
 
+    /// Whether what is locked still stands at this path. Whoever held the lock before may have moved it.
+    bool isOf(const HostPath& path) const;
+
 private:
+    static std::optional<FileLock> take(FileDescriptor opened, Wait wait);
+
     explicit FileLock(FileDescriptor file) : m_file(std::move(file)) {}
 
     FileDescriptor m_file;
