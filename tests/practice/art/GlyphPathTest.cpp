@@ -14,21 +14,15 @@ TEST(GlyphPath, ReadsEveryLayerOfEveryGlyph) {
 }
 
 TEST(GlyphPath, DrawsFiguresWhereTheyAreSaidToBe) {
-    struct Case {
-        const char* text;
-        QRectF bounds;
+    const std::pair<const char*, QRect> cases[] = {
+        {"M 10 20 H 40 V 60 Z", {10, 20, 30, 40}},  {"R 5 6 70 80 9", {5, 6, 70, 80}},
+        {"O 50 40 20", {30, 20, 40, 40}},           {"A 50 50 10 0 180", {40, 40, 20, 10}},
+        {"T 90 R 10 0 20 100 0", {0, 10, 100, 20}},
     };
-
-    for (const Case& c : {Case{"M 10 20 H 40 V 60 Z", {10, 20, 30, 40}}, Case{"R 5 6 70 80 9", {5, 6, 70, 80}},
-                          Case{"O 50 40 20", {30, 20, 40, 40}}, Case{"T 90 R 10 0 20 100 0", {0, 10, 100, 20}},
-                          Case{"A 50 50 10 0 180", {40, 40, 20, 10}}}) {
-        const auto path = parseGlyphPath(c.text);
-        ASSERT_TRUE(path) << c.text;
-        const QRectF bounds = path->boundingRect();
-        EXPECT_NEAR(bounds.left(), c.bounds.left(), 0.01) << c.text;
-        EXPECT_NEAR(bounds.top(), c.bounds.top(), 0.01) << c.text;
-        EXPECT_NEAR(bounds.right(), c.bounds.right(), 0.01) << c.text;
-        EXPECT_NEAR(bounds.bottom(), c.bounds.bottom(), 0.01) << c.text;
+    for (const auto& [text, bounds] : cases) {
+        const auto path = parseGlyphPath(text);
+        ASSERT_TRUE(path) << text;
+        EXPECT_EQ(path->boundingRect().toRect(), bounds) << text;
     }
 }
 

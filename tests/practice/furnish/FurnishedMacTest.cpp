@@ -52,9 +52,9 @@ protected:
     PracticeMac m_practiceMac{m_volume.root()};
 };
 
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+std::string trimmed(std::string text) {
+    std::erase(text, ' ');
+    return text;
 }
 
 TEST_F(FurnishedMac, LaunchpadRowsLeadToBundlesThatAgreeButForOneThatIsGone) {

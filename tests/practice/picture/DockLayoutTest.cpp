@@ -17,6 +17,11 @@ namespace {
 
 const MacPath kPreferences("/com.apple.dock.plist");
 
+struct DockLayoutTest : testing::Test {
+    test::TemporaryFolder folder;
+    PosixFileManager files{folder.path()};
+};
+
 Value tile(const char* type, Dictionary data) {
     return Dictionary{{"tile-type", type}, {"tile-data", std::move(data)}};
 }
@@ -27,9 +32,7 @@ Value url(const char* text) {
 
 } // namespace
 
-TEST(DockLayout, ReadsEveryKindOfTile) {
-    const test::TemporaryFolder folder;
-    PosixFileManager files(folder.path());
+TEST_F(DockLayoutTest, ReadsEveryKindOfTile) {
     const MacPath first("/Applications/First.app");
     const MacPath second("/Applications/Second One.app");
     for (const MacPath& path : {first, second, MacPath("/Users/practice/Downloads")})
@@ -39,12 +42,7 @@ TEST(DockLayout, ReadsEveryKindOfTile) {
     ASSERT_TRUE(book);
     const auto secondURL = url("file:///Applications/Second%20One.app/");
 
-    struct Case {
-        Value tile;
-        DockTile read;
-    };
-
-    const Case cases[] = {
+    const std::pair<Value, DockTile> cases[] = {
         {tile("file-tile",
               {{"book", *book}, {"file-data", secondURL}, {"file-label", "One"}, {"bundle-identifier", "x.1"}}),
          {TileKind::app, "One", "x.1", first}},
@@ -60,28 +58,23 @@ TEST(DockLayout, ReadsEveryKindOfTile) {
          {TileKind::file, "letter", "", MacPath("/Users/practice/letter.txt")}},
         {tile("spacer-tile", {{"file-label", ""}}), {TileKind::spacer, "", "", {}}},
         {tile("small-spacer-tile", {{"file-label", " "}}), {TileKind::smallSpacer, " ", "", {}}},
-        {tile("file-tile", {{"book", "text"},
-                            {"file-data", Array{}},
-                            {"file-label", Dictionary{}},
-                            {"bundle-identifier", 5}}),
+        {tile("file-tile", {{"book", "text"}, {"file-data", Array{}}, {"bundle-identifier", 5}}),
          {TileKind::app, "", "", {}}},
     };
     Array tiles{Value("no tile"), Dictionary{}};
-    for (const Case& c : cases)
-        tiles.push_back(c.tile);
+    for (const auto& [tile, read] : cases)
+        tiles.push_back(tile);
     ASSERT_TRUE(writePropertyList(files, kPreferences,
                                   Dictionary{{"persistent-apps", tiles}, {"persistent-others", 3}}));
     const auto layout = readDockLayout(files, kPreferences);
     ASSERT_TRUE(layout);
     ASSERT_EQ(layout->apps.size(), std::size(cases));
     for (std::size_t i = 0; i < std::size(cases); ++i)
-        EXPECT_EQ(layout->apps[i], cases[i].read) << i;
+        EXPECT_EQ(layout->apps[i], cases[i].second) << i;
     EXPECT_TRUE(layout->others.empty());
 }
 
-TEST(DockLayout, ShowsRecentApplicationsUnlessTheyAreTurnedOff) {
-    const test::TemporaryFolder folder;
-    PosixFileManager files(folder.path());
+TEST_F(DockLayoutTest, ShowsRecentApplicationsUnlessTheyAreTurnedOff) {
     EXPECT_FALSE(readDockLayout(files, kPreferences));
     Dictionary preferences{{"recent-apps", Array{tile("file-tile", {{"file-label", "Lately"}})}}};
     for (bool shown : {true, false}) {

