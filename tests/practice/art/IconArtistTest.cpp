@@ -38,7 +38,7 @@ TEST(IconArtist, OnlySquirclesHaveTheStandardOutlineAtEverySize) {
     }
 }
 
-TEST(IconArtist, EveryGlyphHasItsOwnLookOnAPlateAndWithoutOne) {
+TEST(IconArtist, EveryGlyphHasItsOwnLookWithinTheCanvasOnAPlateAndWithoutOne) {
     std::set<QByteArray> looks;
     for (Outline outline : {Outline::squircle, Outline::free}) {
         std::vector<std::string> glyphs = glyphNames();
@@ -47,23 +47,10 @@ TEST(IconArtist, EveryGlyphHasItsOwnLookOnAPlateAndWithoutOne) {
             const QImage icon = drawIcon({outline, kBlue.top, kBlue.bottom, glyph}, 64);
             const QByteArray pixels(reinterpret_cast<const char*>(icon.constBits()), icon.sizeInBytes());
             EXPECT_TRUE(looks.insert(pixels).second) << glyph << " is empty or looks like another";
+            EXPECT_EQ(looksLikeSquircle(icon), outline == Outline::squircle) << glyph;
+            for (int i = 0; i < 64; ++i)
+                for (QRgb edge : {icon.pixel(i, 0), icon.pixel(i, 63), icon.pixel(0, i), icon.pixel(63, i)})
+                    ASSERT_LT(qAlpha(edge), 128) << glyph << " runs over the edge";
         }
-    }
-}
-
-TEST(IconArtist, FreeIconsAreSilhouettesWithinTheirCanvas) {
-    for (const std::string& glyph : glyphNames()) {
-        const QImage icon = drawIcon({Outline::free, kBlue.top, kBlue.bottom, glyph}, 128);
-        EXPECT_FALSE(looksLikeSquircle(icon)) << glyph;
-        for (int i = 0; i < 128; ++i)
-            for (QRgb edge : {icon.pixel(i, 0), icon.pixel(i, 127), icon.pixel(0, i), icon.pixel(127, i)})
-                ASSERT_LT(qAlpha(edge), 128) << glyph << " runs over the edge";
-    }
-}
-
-TEST(IconArtist, KeepsTheGlyphReadableOnEveryPlate) {
-    for (const QColor& plate : {QColor(0xE4E8EE), QColor(0xF59E0B), QColor(0x1769E0), QColor(0x101318)}) {
-        const QImage icon = drawIcon({Outline::squircle, plate.lighter(120), plate, "play"}, 128);
-        EXPECT_GT(std::abs(qGray(icon.pixel(64, 64)) - qGray(icon.pixel(24, 64))), 60) << plate.rgb();
     }
 }

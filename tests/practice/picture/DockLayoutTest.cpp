@@ -30,6 +30,10 @@ Value url(const char* text) {
     return Dictionary{{"_CFURLString", text}, {"_CFURLStringType", 15}};
 }
 
+Value tileOf(const char* text) {
+    return tile("file-tile", {{"file-data", url(text)}});
+}
+
 } // namespace
 
 TEST_F(DockLayoutTest, ReadsEveryKindOfTile) {
@@ -48,13 +52,11 @@ TEST_F(DockLayoutTest, ReadsEveryKindOfTile) {
          {TileKind::app, "One", "x.1", first}},
         {tile("file-tile", {{"book", Bytes{1, 2, 3}}, {"file-data", secondURL}}),
          {TileKind::app, "Second One", "", second}},
-        {tile("file-tile", {{"file-data", url("/Applications/First.app")}}),
-         {TileKind::app, "First", "", first}},
-        {tile("file-tile", {{"file-data", url("file:///Applications/Gone.app/")}, {"file-label", "Gone"}}),
-         {TileKind::app, "Gone", "", {}}},
+        {tileOf("/Applications/First.app"), {TileKind::app, "First", "", first}},
+        {tileOf("file:///Applications/Gone.app/"), {TileKind::app, "", "", {}}},
         {tile("directory-tile", {{"file-data", url("file:///Users/practice/Downloads/")}}),
          {TileKind::folder, "Downloads", "", MacPath("/Users/practice/Downloads")}},
-        {tile("file-tile", {{"file-data", url("file:///Users/practice/letter.txt")}}),
+        {tileOf("file:///Users/practice/letter.txt"),
          {TileKind::file, "letter", "", MacPath("/Users/practice/letter.txt")}},
         {tile("spacer-tile", {{"file-label", ""}}), {TileKind::spacer, "", "", {}}},
         {tile("small-spacer-tile", {{"file-label", " "}}), {TileKind::smallSpacer, " ", "", {}}},

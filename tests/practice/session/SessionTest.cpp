@@ -12,7 +12,6 @@
 #include "support/WaitFor.h"
 #include "support/practice/PracticeVolume.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -82,21 +81,13 @@ TEST_F(SessionTest, IndexesWhatTheRealToolsRegistered) {
 }
 
 TEST_F(SessionTest, LeavesNoDockBehindWhenItsProgramIsKilled) {
-    int ready[2];
-    ASSERT_EQ(::pipe(ready), 0);
-    ::fcntl(ready[1], F_SETFD, FD_CLOEXEC); // or the Dock would hold it open
     const pid_t program = ::fork();
     if (program == 0) {
         const Session session(root);
-        ::close(ready[1]);
         ::pause();
         ::_exit(0);
     }
-    ::close(ready[1]);
-    char byte = 0;
-    EXPECT_EQ(::read(ready[0], &byte, 1), 0);
-    ::close(ready[0]);
-    ASSERT_THAT(docks(), SizeIs(1));
+    EXPECT_TRUE(waitFor([&] { return docks().size() == 1; }));
     ASSERT_EQ(::kill(program, SIGKILL), 0);
     ::waitpid(program, nullptr, 0);
     EXPECT_TRUE(waitFor([&] { return docks().empty(); })) << "still runs: " << docks().front();

@@ -6,6 +6,7 @@
 #include "platform/practice/PropertyListFile.h"
 #include "practice/process/ProcessRecord.h"
 #include "support/TemporaryFolder.h"
+#include "support/WaitFor.h"
 
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -149,30 +150,24 @@ TEST_F(SystemToolsTest, NotesEachCallInTheJournal) {
                                                  "794000000.250\t/usr/bin/touch\t/no/where at all\n");
 }
 
-/// A child that records itself on a volume as a Dock, if it is to, and waits for a signal.
-pid_t startChild(const HostPath& root, bool claims) {
-    int ready[2];
-    EXPECT_EQ(::pipe(ready), 0);
+/// A child that records itself on a volume under a name and waits for a signal.
+pid_t startChild(const HostPath& root, const std::string& name) {
     const pid_t child = ::fork();
     if (child == 0) {
-        const auto record = claims ? ProcessRecord::claim(root, "Dock") : std::nullopt;
-        ::close(ready[1]);
+        const auto record = ProcessRecord::claim(root, name);
         ::pause();
         ::_exit(0);
     }
-    ::close(ready[1]);
-    char byte = 0;
-    EXPECT_EQ(::read(ready[0], &byte, 1), 0);
-    ::close(ready[0]);
+    EXPECT_TRUE(test::waitFor([&] { return !liveProcesses(root, name).empty(); }));
     return child;
 }
 
 TEST(ProcessRecord, NamesOnlyLiveProcessesOfItsVolumeAndCleansUpAfterTheDead) {
     const test::TemporaryFolder one;
     const test::TemporaryFolder other;
-    const pid_t ours = startChild(one.path(), true);
-    const pid_t theirs = startChild(other.path(), true);
-    const pid_t stranger = startChild(one.path(), false);
+    const pid_t ours = startChild(one.path(), "Dock");
+    const pid_t theirs = startChild(other.path(), "Dock");
+    const pid_t stranger = startChild(one.path(), "Stranger");
     const std::string record = (one.path() / kProcessFolder.string() / "Dock.").string();
     // As a dead Dock leaves it, whose number a stranger was given since.
     const std::string left = record + std::to_string(stranger);
