@@ -2,7 +2,6 @@
 
 #include "platform/PosixFileManager.h"
 #include "platform/Sqlite.h"
-#include "platform/practice/PracticeBookmarks.h"
 #include "support/FileTree.h"
 #include "support/TemporaryFolder.h"
 
@@ -109,25 +108,6 @@ TEST(LaunchpadLayout, ShowsWhatAPersonWouldSee) {
         launchpad.run(change);
         EXPECT_EQ(launchpad.shown(), pages) << change;
     }
-}
-
-TEST(LaunchpadLayout, FollowsABookmarkOnlyToWhatIsThere) {
-    SmallLaunchpad launchpad;
-    const MacPath app("/Applications/Second.app");
-    ASSERT_TRUE(launchpad.files.createFolder(app));
-    const auto bookmark = PracticeBookmarks(launchpad.files).make(app);
-    ASSERT_TRUE(bookmark);
-    auto update = launchpad.connection->prepare("UPDATE apps SET bookmark = ?1 WHERE item_id = 20");
-    update.bind(1, ByteView(*bookmark));
-    ASSERT_EQ(update.step(), sqlite::Step::done);
-
-    const auto pathOfSecond = [&] {
-        const auto layout = readLaunchpadLayout(launchpad.files, launchpad.database, 9);
-        return std::get<LaunchpadApp>(layout->pages.at(0).at(1)).path;
-    };
-    EXPECT_EQ(pathOfSecond(), app);
-    ASSERT_TRUE(launchpad.files.remove(app));
-    EXPECT_EQ(pathOfSecond(), MacPath());
 }
 
 TEST(LaunchpadLayout, ReadsTheLogOfADatabaseWithoutTouchingAnything) {

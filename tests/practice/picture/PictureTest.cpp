@@ -119,10 +119,3 @@ TEST_F(Picture, StaysOfModestSizeForAHugeLaunchpad) {
     EXPECT_LT(draw().height(), 12000);
     EXPECT_GT(m_map.spots.size(), 12u * 35);
 }
-
-TEST_F(Picture, SaysWhichStoreCannotBeRead) {
-    ASSERT_TRUE(PracticeFileManager(m_mac.root()).remove(MacPath("/Users/practice/Library/Preferences")));
-    const auto picture = drawPicture(m_mac.root());
-    ASSERT_FALSE(picture);
-    EXPECT_THAT(picture.error().description, testing::HasSubstr("com.apple.dock.plist"));
-}

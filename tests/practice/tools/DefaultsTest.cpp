@@ -47,9 +47,8 @@ TEST_F(DefaultsTest, ReadsValuesAsTheMacPrintsThem) {
                             "},\n    \"b\\\"c\"\n)\n"},
         {"tilesize", "48.5\n"},
     };
-    for (const auto& [key, text] : cases) {
+    for (const auto& [key, text] : cases)
         EXPECT_EQ(run({"read", key}).output, text);
-    }
     EXPECT_THAT(run({"read"}).output, StartsWith("{\n    autohide = 1;\n    book = {length"));
 }
 
