@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tavrik {
 namespace {
 
@@ -45,11 +43,7 @@ TEST_F(AppIconReading, TakesTheFirstIconFileThatLoadsAtItsFullSize) {
     write("Contents/Resources/Icon.icns", icns::encode(plain(1024, 1024, Qt::green)));
     write("Contents/Resources/app.icns", icns::encode(plain(1024, 1024, Qt::blue)));
 
-    struct Case {
-        plist::Value named;
-        Qt::GlobalColor expected;
-    };
-
+    using Case = std::pair<plist::Value, Qt::GlobalColor>;
     for (const auto& [named, expected] :
          {Case{"Atlas", Qt::red}, Case{"Atlas.icns", Qt::red}, Case{"Missing", Qt::green}, Case{"", Qt::green},
           Case{7, Qt::green}, Case{"../Resources/Atlas", Qt::green}, Case{"app", Qt::blue}}) {
@@ -81,32 +75,25 @@ TEST_F(AppIconReading, FallsBackToTheWorkspace) {
     EXPECT_EQ(icons.appIcon(bundle), small.mac.workspace.icon(bundle));
 }
 
-struct Fit {
-    int width, height;
-    QRect drawn;
-};
-
-class SquareIcon : public testing::TestWithParam<Fit> {};
-
-TEST_P(SquareIcon, FitsAndCentresWithTheOddRemainderToTheRightAndTheBottom) {
-    const auto [width, height, drawn] = GetParam();
-    const auto square = IconManager::squareIcon(plain(width, height, QColor(10, 200, 90, 255)));
-    ASSERT_TRUE(square);
-    ASSERT_EQ(square->size(), QSize(1024, 1024));
-    for (int index = 0; index < 1024; ++index) {
-        const bool isAcross = index >= drawn.left() && index <= drawn.right();
-        const bool isDown = index >= drawn.top() && index <= drawn.bottom();
-        EXPECT_EQ(qAlpha(square->pixel(index, drawn.center().y())), isAcross ? 255 : 0) << "column " << index;
-        EXPECT_EQ(qAlpha(square->pixel(drawn.center().x(), index)), isDown ? 255 : 0) << "row " << index;
+TEST(SquareIcons, FitAndCentreWithTheOddRemainderToTheRightAndTheBottom) {
+    for (const auto& [size, drawn] :
+         {std::pair(QSize(512, 256), QRect(0, 256, 1024, 512)),
+          std::pair(QSize(2000, 2000), QRect(0, 0, 1024, 1024)),
+          std::pair(QSize(1024, 3), QRect(0, 510, 1024, 3)),
+          std::pair(QSize(1023, 1024), QRect(0, 0, 1023, 1024)),
+          std::pair(QSize(1, 1), QRect(0, 0, 1024, 1024)), std::pair(QSize(5000, 1), QRect(0, 511, 1024, 1))}) {
+        const auto square = IconManager::squareIcon(plain(size.width(), size.height(), QColor(10, 200, 90)));
+        ASSERT_EQ(square->size(), QSize(1024, 1024));
+        for (int index = 0; index < 1024; ++index) {
+            const bool isAcross = index >= drawn.left() && index <= drawn.right();
+            const bool isDown = index >= drawn.top() && index <= drawn.bottom();
+            EXPECT_EQ(qAlpha(square->pixel(index, drawn.center().y())), isAcross ? 255 : 0) << "x " << index;
+            EXPECT_EQ(qAlpha(square->pixel(drawn.center().x(), index)), isDown ? 255 : 0) << "y " << index;
+        }
+        EXPECT_EQ(square->pixelColor(drawn.center()), QColor(10, 200, 90));
+        EXPECT_EQ(IconManager::squareIcon(*square)->constBits(), square->constBits()) << "no copy of a square";
     }
-    EXPECT_EQ(square->pixelColor(drawn.center()), QColor(10, 200, 90));
 }
-
-INSTANTIATE_TEST_SUITE_P(Sizes, SquareIcon,
-                         testing::Values(Fit{512, 256, {0, 256, 1024, 512}},
-                                         Fit{2000, 2000, {0, 0, 1024, 1024}}, Fit{1024, 3, {0, 510, 1024, 3}},
-                                         Fit{1023, 1024, {0, 0, 1023, 1024}}, Fit{1, 1, {0, 0, 1024, 1024}},
-                                         Fit{5000, 1, {0, 511, 1024, 1}}));
 
 TEST(SquareIcons, HoldColoursInSRGBAndKeepTransparency) {
     QImage wide = plain(300, 300, QColor(255, 0, 0, 128));
@@ -116,10 +103,8 @@ TEST(SquareIcons, HoldColoursInSRGBAndKeepTransparency) {
     EXPECT_EQ(square->pixelColor(512, 512).alpha(), 128);
 
     QImage halves = plain(64, 64, Qt::transparent);
-    for (int y = 0; y < 64; ++y) {
-        for (int x = 0; x < 64; ++x)
-            halves.setPixelColor(x, y, x < 32 ? QColor(255, 255, 255) : QColor(0, 0, 0, 0));
-    }
+    for (int pixel = 0; pixel < 64 * 32; ++pixel)
+        halves.setPixelColor(pixel % 32, pixel / 32, Qt::white);
     // The black of the transparent half must not darken the edge.
     const QImage scaled = *IconManager::squareIcon(halves);
     for (int x = 0; x < 1024; ++x) {
@@ -128,11 +113,6 @@ TEST(SquareIcons, HoldColoursInSRGBAndKeepTransparency) {
         }
     }
     EXPECT_EQ(qAlpha(IconManager::squareIcon(QImage())->pixel(0, 0)), 0);
-}
-
-TEST(SquareIcons, PassWhatIsSquareAlreadyWithoutACopy) {
-    const QImage ready = *IconManager::squareIcon(plain(700, 700, Qt::red));
-    EXPECT_EQ(IconManager::squareIcon(ready)->constBits(), ready.constBits());
 }
 
 } // namespace
