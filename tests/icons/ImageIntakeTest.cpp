@@ -55,9 +55,10 @@ Bytes animation() {
 
 Bytes drawing(const std::string& attributes,
               const std::string& content = "<rect width='9' height='9' fill='red'/>") {
-    return bytesOf("<?xml version='1.0'?><!-- note --><svg xmlns='http://www.w3.org/2000/svg' "
-                   "xmlns:xlink='http://www.w3.org/1999/xlink' " +
-                   attributes + ">" + content + "</svg>");
+    const std::string text = "<?xml version='1.0'?><!-- note --><svg xmlns='http://www.w3.org/2000/svg' "
+                             "xmlns:xlink='http://www.w3.org/1999/xlink' " +
+                             attributes + ">" + content + "</svg>";
+    return Bytes(text.begin(), text.end());
 }
 
 std::map<std::string, Bytes> samples() {

@@ -6,11 +6,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <set>
 #include <thread>
 
 namespace tavrik {
 namespace {
 
+using test::Times;
 using testing::ElementsAre;
 
 class SettingsManagerTest : public testing::Test {
@@ -21,6 +24,12 @@ protected:
 
     static std::string xml(const std::string& content) {
         return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + content + "</plist>\n";
+    }
+
+    /// What the next start finds.
+    std::int64_t countAfterRestart() {
+        small.files.failNothing();
+        return SettingsManager(small.mac).getBackupRetentionCount();
     }
 
     test::SmallMac small;
@@ -145,6 +154,78 @@ TEST_F(SettingsManagerTest, LosesNoChangeOfTwoThreads) {
     fill("own");
     other.join();
     EXPECT_EQ(onDisk(main).find<plist::Dictionary>("SelectedIcons")->size(), std::size_t{2 * kEach});
+}
+
+TEST_F(SettingsManagerTest, LeavesOldOrNewContentWhateverFails) {
+    settings.setBackupRetentionCount(1);
+    small.files.forget();
+    settings.setBackupRetentionCount(2);
+    const std::size_t operations = small.files.count();
+    ASSERT_GE(operations, 6u);
+    for (const int code : {EIO, ENOSPC}) {
+        for (const Times times : {Times::once, Times::forGood}) {
+            for (std::size_t number = 1; number <= operations; ++number) {
+                settings.setBackupRetentionCount(2);
+                small.files.failAt(number, code, times);
+                settings.setBackupRetentionCount(3);
+                EXPECT_THAT(countAfterRestart(), testing::AnyOf(2, 3)) << number << " errno " << code;
+                if (times == Times::once) {
+                    EXPECT_THAT(
+                        *small.files.list(main.parent()),
+                        testing::Each(testing::AnyOf("AppSettings.plist", "AppSettings.backup", "IconCache")));
+                }
+            }
+        }
+    }
+}
+
+TEST_F(SettingsManagerTest, KeepsTheBestThatIsOnDiskAndTellsOfTheFailure) {
+    struct Case {
+        std::set<std::string> failing;
+        bool isMainDamaged;
+        std::int64_t kept;
+    };
+
+    for (const auto& [failing, isMainDamaged, kept] : {
+             Case{{"create AppSettings.tmp"}, false, 2},
+             Case{{"replace AppSettings.plist"}, false, 2},
+             Case{{"create AppSettings.tmp", "remove AppSettings.backup"}, false, 2},
+             Case{{"read AppSettings.plist"}, false, 2},
+             Case{{"create", "write"}, true, 1},
+         }) {
+        SCOPED_TRACE(*failing.begin());
+        settings.setBackupRetentionCount(1);
+        settings.setBackupRetentionCount(2);
+        if (isMainDamaged)
+            ignoreFailure(small.files.write(main, bytesOf("cut")));
+        small.files.setRule([&](const test::FileOperation& operation) -> std::optional<int> {
+            const bool fails = failing.contains(operation.name) ||
+                               failing.contains(operation.name + " " + operation.path.name());
+            return fails ? std::optional(ENOSPC) : std::nullopt;
+        });
+        log.clear();
+        settings.setBackupRetentionCount(3);
+        EXPECT_TRUE(log.mentions("Failed to save settings: "));
+        EXPECT_EQ(countAfterRestart(), kept);
+    }
+}
+
+TEST_F(SettingsManagerTest, SaysThatASwapRecordIsOnDiskOnlyWhenItIs) {
+    const SwapRecord record{RowID{1}, {0, RowID{2}, 3}, RowID{4}, {128, RowID{5}, 6}};
+    for (const char* operation : {"create", "flush", "replace"}) {
+        small.files.failOn(operation, {}, EIO);
+        EXPECT_FALSE(settings.saveSwapRecord("com.example.atlas", record)) << operation;
+    }
+    small.files.failNothing();
+    EXPECT_TRUE(settings.saveSwapRecord("com.example.atlas", record));
+}
+
+TEST(SettingsManager, WorksAsFarAsItGoesWhenItsFolderCannotBeMade) {
+    test::SmallMac small;
+    small.files.failOn("createFolder", {}, EROFS);
+    SettingsManager settings(small.mac);
+    settings.setBackupRetentionCount(3);
+    EXPECT_EQ(settings.getBackupRetentionCount(), 30);
 }
 
 } // namespace

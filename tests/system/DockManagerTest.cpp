@@ -134,65 +134,36 @@ TEST_F(DockManagerTest, PointsATileAtTheOriginalByForceAndNeverSavesAWrappersBoo
     EXPECT_EQ(preferences(), expected(kAtlas, 3, *mac.mac.bookmarks.make(kAtlas)));
 }
 
-TEST_F(DockManagerTest, CountsOnlyChangesOfAnIntegerAndToleratesATileWithoutFileData) {
-    for (const Value& count : {Value("41"), Value(41.0), Value(true), Value(INT64_MAX)}) {
-        writePreferences(
-            Dictionary{{"mod-count", count},
-                       {"persistent-apps", Array{tile({{"bundle-identifier", kID}, {"file-data", 5}})}}});
-        ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
-        EXPECT_EQ(*preferences().find("mod-count"), count);
-    }
-    EXPECT_TRUE(preferences()
-                    .find<Array>("persistent-apps")
-                    ->front()
-                    .find("tile-data")
-                    ->find("file-data")
-                    ->find<std::string>("_CFURLString"));
-    EXPECT_FALSE(settings.getDockBookmark(kID)) << "there was no bookmark to save";
-}
-
 TEST_F(DockManagerTest, LeavesThePreferencesAloneWhenAnythingFails) {
     struct Case {
         std::string line;
         std::function<void()> arrange;
-        std::function<bool()> act;
+        MacPath target = kWrapper;
+        std::string bundleID = kID;
     };
 
-    const auto update = [&] { return dock.updateDockEntry(kID, kWrapper); };
     const auto fail = [&](const char* operation, const MacPath& path) {
         return [this, operation, path] { mac.files.failOn(operation, path, EIO); };
     };
     const MacPath nothing("/Applications/Nothing.app");
     const std::vector<Case> cases{
-        {"ERROR: Tavrik app doesn't exist at " + nothing.string(),
-         {},
-         [&] { return dock.updateDockEntry(kID, nothing); }},
-        {"ERROR: Original app doesn't exist at " + nothing.string(),
-         {},
-         [&] { return dock.forceRestoreDockEntry(kID, nothing); }},
-        {"App org.example.other not found in Dock",
-         {},
-         [&] { return dock.updateDockEntry("org.example.other", kWrapper); }},
-        {"Failed to read Dock plist", fail("read", kPlist), update},
+        {"ERROR: Tavrik app doesn't exist at " + nothing.string(), [] {}, nothing},
+        {"App org.example.other not found in Dock", [] {}, kWrapper, "org.example.other"},
+        {"Failed to read Dock plist", fail("read", kPlist)},
         {"No persistent-apps found in Dock plist",
-         [&] { writePreferences(Dictionary{{"persistent-apps", 3}}); }, update},
-        {"Failed to read Dock plist: the file holds no dictionary", [&] { writePreferences(Array{}); }, update},
-        {"ERROR: Failed to save original Dock bookmark for " + kID,
-         [&] {
-             mac.files.failOn("create", {}, ENOSPC);
-             mac.files.failOn("replace", {}, ENOSPC);
-         },
-         update},
-        {"Updated Dock entry for " + kID + " to use tavrik app", fail("write", kPlist), update},
+         [&] { writePreferences(Dictionary{{"persistent-apps", 3}}); }},
+        {"Failed to read Dock plist: the file holds no dictionary", [&] { writePreferences(Array{}); }},
+        {"ERROR: Failed to save original Dock bookmark for " + kID, fail("replace", {})},
+        {"Updated Dock entry for " + kID + " to use tavrik app", fail("write", kPlist)},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.line);
         writePreferences(sample());
-        if (each.arrange)
-            each.arrange();
+        each.arrange();
         const Bytes before = content(kPlist);
         log.clear();
-        EXPECT_FALSE(each.act());
+        EXPECT_FALSE(dock.updateDockEntry(each.bundleID, each.target));
+        EXPECT_FALSE(dock.forceRestoreDockEntry(kID, nothing));
         EXPECT_TRUE(log.has(each.line));
         EXPECT_EQ(content(kPlist), before);
         mac.files.failNothing();

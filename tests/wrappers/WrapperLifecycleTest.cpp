@@ -35,28 +35,27 @@ TEST_F(Lifecycle, CreatesAWrapperInTheOriginalsPlaceStepByStep) {
     // The Dock comes back 0.4 s after its end and indexes 4 s later.
     EXPECT_EQ(clock.waits(), joined(kRestart, Waits{3000ms, 1000ms, 1000ms, 500ms}, kRestart));
     const std::string wrapper = wrapperOf(atlas).string();
-    const auto row = [](const LaunchpadItem& item) { return std::to_string(item.row); };
-    const auto home = std::find_if(firstRows.begin(), firstRows.end(),
-                                   [&](const LaunchpadItem& item) { return item.bundleID == atlas.bundleID; });
-    EXPECT_THAT(log.lines(),
-                ElementsAre("\n=== CREATING TAVRIK APP ===", "Name: Atlas", "Bundle ID: org.example.atlas",
-                            "Path: /Applications/Atlas.app",
-                            "Target app - RowID: " + row(*home) + ", Parent: " + std::to_string(home->parent) +
-                                ", Ordering: " + std::to_string(home->ordering),
-                            "Created tavrik app at: " + wrapper, "Icon set attempt 1",
-                            "Successfully set custom icon for " + wrapper,
-                            "\n>>> DOCK RESTART: Killing Dock process to refresh Launchpad and Dock...",
-                            ">>> DOCK RESTART: Complete\n", "Attempt 1: Tavrik app not yet indexed, waiting...",
-                            "Attempt 2: Tavrik app not yet indexed, waiting...",
-                            "Found visible tavrik app with RowID: " + row(*rowsOf(atlas).wrapper),
-                            "Successfully swapped to tavrik app", "App is in Dock, updating bookmark...",
-                            "  Added warning RTF: " + (kWrappers / kWarning).string(),
-                            "Backed up Dock plist to " + dockPreferencesBackupPath(practice::kHome).string(),
-                            "Saved original Dock bookmark for org.example.atlas",
-                            "Updated Dock entry for org.example.atlas to use tavrik app",
-                            "Successfully wrote updated Dock plist",
-                            "\n>>> DOCK RESTART: Killing Dock process to refresh Launchpad and Dock...",
-                            ">>> DOCK RESTART: Complete\n", "=== END TAVRIK APP CREATION ===\n"));
+    const LaunchpadItem& home = firstRow(atlas);
+    EXPECT_THAT(
+        log.lines(),
+        ElementsAre("\n=== CREATING TAVRIK APP ===", "Name: Atlas", "Bundle ID: org.example.atlas",
+                    "Path: /Applications/Atlas.app",
+                    "Target app - RowID: " + std::to_string(home.row) + ", Parent: " +
+                        std::to_string(home.parent) + ", Ordering: " + std::to_string(home.ordering),
+                    "Created tavrik app at: " + wrapper, "Icon set attempt 1",
+                    "Successfully set custom icon for " + wrapper,
+                    "\n>>> DOCK RESTART: Killing Dock process to refresh Launchpad and Dock...",
+                    ">>> DOCK RESTART: Complete\n", "Attempt 1: Tavrik app not yet indexed, waiting...",
+                    "Attempt 2: Tavrik app not yet indexed, waiting...",
+                    "Found visible tavrik app with RowID: " + std::to_string(rowsOf(atlas).wrapper->row),
+                    "Successfully swapped to tavrik app", "App is in Dock, updating bookmark...",
+                    "  Added warning RTF: " + (kWrappers / kWarning).string(),
+                    "Backed up Dock plist to " + dockPreferencesBackupPath(practice::kHome).string(),
+                    "Saved original Dock bookmark for org.example.atlas",
+                    "Updated Dock entry for org.example.atlas to use tavrik app",
+                    "Successfully wrote updated Dock plist",
+                    "\n>>> DOCK RESTART: Killing Dock process to refresh Launchpad and Dock...",
+                    ">>> DOCK RESTART: Complete\n", "=== END TAVRIK APP CREATION ===\n"));
     expectSwapped(atlas);
     EXPECT_EQ(mac.workspace.icon(wrapperOf(atlas)).pixelColor(8, 8), QColor(Qt::red));
     EXPECT_THAT(*mac.files.list(kWrappers), UnorderedElementsAre(kWarning, "Atlas.app"));
@@ -106,11 +105,8 @@ TEST_F(Lifecycle, BatchesCreationsAroundOneRestart) {
     EXPECT_EQ(log.count("    Successfully swapped to tavrik app"), 2u);
     ASSERT_TRUE(wrappers().completeCreation(atlas)) << "a repeat swaps nothing";
 
-    for (const ApplicationInfo& app : {atlas, halyard}) {
-        const auto home = std::find_if(firstRows.begin(), firstRows.end(),
-                                       [&](const LaunchpadItem& row) { return row.bundleID == app.bundleID; });
-        EXPECT_EQ(placeOf(*rowsOf(app).wrapper), placeOf(*home));
-    }
+    for (const ApplicationInfo& app : {atlas, halyard})
+        EXPECT_EQ(placeOf(*rowsOf(app).wrapper), placeOf(firstRow(app)));
     EXPECT_EQ(tilePath(atlas), wrapperOf(atlas));
     EXPECT_TRUE(wrappers().removeWrapper(atlas, RestartDock::no));
     EXPECT_TRUE(mac.files.exists(kWrappers / kWarning)) << "another wrapper is still there";
@@ -132,6 +128,7 @@ TEST_F(Lifecycle, SwapsAHiddenApplicationAndPutsItsFlagBack) {
 
     program->database.loadLaunchpadApps(); // which records hidden rows too
     EXPECT_EQ(program->settings.getHiddenFlagApp(tips.bundleID)->originalRowID, RowID{rows.original->row});
+    EXPECT_EQ(program->settings.getHiddenFlagApp(tips.bundleID)->tavrikRowID, RowID{rows.wrapper->row});
     EXPECT_TRUE(wrappers().removeWrapper(tips, RestartDock::yes));
     EXPECT_TRUE(log.has("Using special removal for hidden flag app: com.apple.tips"));
     EXPECT_FALSE(program->settings.getHiddenFlagApp(tips.bundleID)->tavrikRowID);
@@ -154,45 +151,32 @@ TEST_F(Lifecycle, UndoesACreationThatLaunchpadNeverIndexes) {
         }
         EXPECT_TRUE(log.has("ERROR: Tavrik app was not indexed after 15"));
         const std::string indent = isBatch ? "    " : "";
-        const auto lines = log.lines();
-        const auto cleanUp =
-            std::find(lines.begin(), lines.end(),
-                      indent + "CLEANUP: Removing failed tavrik app and reverting to original");
-        ASSERT_NE(cleanUp, lines.end());
-        EXPECT_EQ(*std::next(cleanUp), indent + "Removed failed tavrik app wrapper");
-        EXPECT_EQ(lines.back(), indent + "Reset selected icon to original for org.example.atlas");
+        auto lines = log.lines();
+        std::erase(lines, "  Removed warning RTF: " + (kWrappers / kWarning).string());
+        EXPECT_THAT(std::vector(lines.end() - 3, lines.end()),
+                    ElementsAre(indent + "CLEANUP: Removing failed tavrik app and reverting to original",
+                                indent + "Removed failed tavrik app wrapper",
+                                indent + "Reset selected icon to original for org.example.atlas"));
         expectUntouched(atlas);
     }
 }
 
 TEST_F(Lifecycle, UndoesACreationWhoseSwapFails) {
     std::optional<sqlite::Connection> other;
-
-    struct Case {
-        const char* name;
-        std::function<void()> arrange;
-        std::function<void()> release;
-    };
-
-    const std::vector<Case> cases{
-        {"the Dock is writing",
-         [&] {
-             clock.schedule(5s, [&] {
-                 other = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
-                 ASSERT_TRUE(other->execute("BEGIN IMMEDIATE"));
-             });
-         },
-         [&] { other.reset(); }},
-        {"the rows cannot be recorded",
-         [&] { files.failOn("replace", program->settings.appSupportURL() / "AppSettings.plist", ENOSPC); },
-         [&] { files.failNothing(); }},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.name);
+    for (const bool isDockWriting : {true, false}) {
+        SCOPED_TRACE(isDockWriting ? "the Dock is writing" : "the rows cannot be recorded");
         log.clear();
-        each.arrange();
+        if (isDockWriting) {
+            clock.schedule(5s, [&] {
+                other = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+                ASSERT_TRUE(other->execute("BEGIN IMMEDIATE"));
+            });
+        } else {
+            files.failOn("replace", program->settings.appSupportURL() / "AppSettings.plist", ENOSPC);
+        }
         EXPECT_FALSE(wrappers().createWrapper(atlas, redIcon()));
-        each.release();
+        other.reset();
+        files.failNothing();
         EXPECT_TRUE(log.has("ERROR: Failed to perform visibility swap"));
         program->launchpad.restartDock();
         expectUntouched(atlas);

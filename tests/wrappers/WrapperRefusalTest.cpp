@@ -38,12 +38,11 @@ protected:
 } // namespace
 
 TEST_F(Refusals, ApplicationsThatCannotBeRestyled) {
-    ApplicationInfo app = atlas;
-    app.isIOSApp = true;
-    expectRefused(app);
-    app = atlas;
-    app.isUnsupportedApp = true;
-    expectRefused(app);
+    for (const bool isIOSApp : {true, false}) {
+        ApplicationInfo app = atlas;
+        (isIOSApp ? app.isIOSApp : app.isUnsupportedApp) = true;
+        expectRefused(app);
+    }
 }
 
 TEST_F(Refusals, NamesThatCannotBeAFiles) {

@@ -26,23 +26,17 @@ namespace tavrik::test {
 
 /// The managers of one run of the program.
 struct Program {
-    explicit Program(Mac& mac)
-        : settings(mac),
-          icons(mac),
-          database(mac, settings, icons, unsupported),
-          dock(mac, settings),
-          launchpad(mac, dock),
-          iconSettings(mac),
-          wrappers(mac, settings, database, dock, icons, launchpad, iconSettings) {}
+    explicit Program(Mac& on) : mac(on) {}
 
-    SettingsManager settings;
+    Mac& mac;
+    SettingsManager settings{mac};
     UnsupportedAppsManager unsupported;
-    IconManager icons;
-    DatabaseManager database;
-    DockManager dock;
-    LaunchpadManager launchpad;
-    IconSettingsManager iconSettings;
-    TavrikAppManager wrappers;
+    IconManager icons{mac};
+    DatabaseManager database{mac, settings, icons, unsupported};
+    DockManager dock{mac, settings};
+    LaunchpadManager launchpad{mac, dock};
+    IconSettingsManager iconSettings{mac};
+    TavrikAppManager wrappers{mac, settings, database, dock, icons, launchpad, iconSettings};
 };
 
 inline QImage redIcon() {
@@ -102,28 +96,35 @@ protected:
         return preferences;
     }
 
-    MacPath tilePath(const ApplicationInfo& app) const {
-        for (const PinnedTile& tile : volume.pinnedTiles())
+    /// Where the application's tile leads; empty without one.
+    static MacPath tilePath(const ApplicationInfo& app, const std::vector<PinnedTile>& tiles) {
+        for (const PinnedTile& tile : tiles)
             if (tile.bundleID == app.bundleID)
                 return tile.path;
         return MacPath();
     }
 
+    MacPath tilePath(const ApplicationInfo& app) const { return tilePath(app, volume.pinnedTiles()); }
+
+    /// The application's row as it was at first.
+    const LaunchpadItem& firstRow(const ApplicationInfo& app) const {
+        return *std::find_if(firstRows.begin(), firstRows.end(),
+                             [&](const LaunchpadItem& row) { return row.bundleID == app.bundleID; });
+    }
+
     void expectSwapped(const ApplicationInfo& app) {
         const Pair now = rowsOf(app);
         ASSERT_TRUE(now.original && now.wrapper);
-        const auto home = std::find_if(firstRows.begin(), firstRows.end(),
-                                       [&](const LaunchpadItem& row) { return row.row == now.original->row; });
-        EXPECT_EQ(placeOf(*now.wrapper), placeOf(*home)) << "exactly where the original stood";
-        EXPECT_NE(placeOf(*now.original), placeOf(*home));
+        EXPECT_EQ(placeOf(*now.wrapper), placeOf(firstRow(app))) << "exactly where the original stood";
+        EXPECT_NE(placeOf(*now.original), placeOf(firstRow(app)));
         EXPECT_EQ(otherRows(app, volume.launchpadItems()), otherRows(app, firstRows));
 
         const auto mapping = program->settings.getMapping(app.bundleID);
         ASSERT_TRUE(mapping);
-        EXPECT_EQ(mapping->originalRowID, RowID{now.original->row});
+        EXPECT_EQ(mapping->originalRowID, RowID{firstRow(app).row});
         EXPECT_EQ(mapping->tavrikRowID, RowID{now.wrapper->row});
         EXPECT_TRUE(wrappers().hasWrapper(app.bundleID));
-        EXPECT_EQ(tilePath(app), tilePathBefore(app).empty() ? MacPath() : wrapperOf(app));
+        EXPECT_EQ(tilePath(app), tilePath(app, firstTiles).empty() ? MacPath() : wrapperOf(app));
         EXPECT_EQ(*mac.files.readLink(wrapperOf(app) / "Contents"), (app.path / "Contents").string());
         EXPECT_EQ(treeOf(volume.host(MacPath("/Applications"))), firstApplications);
     }
@@ -141,12 +142,6 @@ protected:
         EXPECT_TRUE(!left || left->empty()) << left->front();
     }
 
-    MacPath tilePathBefore(const ApplicationInfo& app) const {
-        const auto found = std::find_if(firstTiles.begin(), firstTiles.end(),
-                                        [&](const PinnedTile& tile) { return tile.bundleID == app.bundleID; });
-        return found == firstTiles.end() ? MacPath() : found->path;
-    }
-
     const MacPath kWrappers = wrapperFolder(practice::kHome);
     const ApplicationInfo atlas = application("Atlas", "org.example.atlas", "/Applications/Atlas.app");
     const ApplicationInfo tips = application("Tips", "com.apple.tips", "/System/Applications/Tips.app");
@@ -156,17 +151,9 @@ protected:
     practice::VirtualSession session{volume.root(), clock};
     practice::PracticeMac practice{volume.root(), {.clock = &clock, .tools = &session}};
     FailingFileManager files{practice.mac().files};
-    Mac mac{.volume = practice.mac().volume,
-            .files = files,
-            .bookmarks = practice.mac().bookmarks,
-            .workspace = practice.mac().workspace,
-            .tools = session,
-            .notifications = practice.mac().notifications,
-            .defaults = practice.mac().defaults,
-            .machine = practice.mac().machine,
-            .clock = clock,
-            .alerts = practice.mac().alerts,
-            .random = practice.mac().random};
+    Mac& own = practice.mac();
+    Mac mac{own.volume,   files,       own.bookmarks, own.workspace, session,   own.notifications,
+            own.defaults, own.machine, clock,         own.alerts,    own.random};
     std::optional<Program> program;
     LogRecorder log;
 
