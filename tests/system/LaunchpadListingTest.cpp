@@ -61,6 +61,17 @@ TEST_F(LaunchpadListing, ListsHiddenItemsOfThePlatformOnlyAndRecordsThemInOneWri
     EXPECT_TRUE(log.has("📌 Detected hidden flag app: com.apple.Chess with rowID: 1"));
 }
 
+TEST_F(LaunchpadListing, NeverTakesAWrappersRowForAHiddenApplicationsOwn) {
+    addApp(1, "Chess", "com.apple.Chess", 0, MacPath("/System/Applications/Chess.app"));
+    addApp(2, "A Chess", "com.apple.Chess", 128, small.mac.volume.home() / "Applications/Tavrik/Chess.app");
+    settings.saveHiddenFlagApp("com.apple.Chess", 128, RowID{1}, RowID{2}, true);
+    const auto apps = database.loadLaunchpadApps();
+    ASSERT_EQ(apps.size(), 1u);
+    EXPECT_EQ(apps.front().first.path, MacPath("/System/Applications/Chess.app"));
+    EXPECT_EQ(settings.getHiddenFlagApp("com.apple.Chess"),
+              (HiddenFlagApp{128, RowID{1}, RowID{2}, true, small.clock.now()}));
+}
+
 TEST_F(LaunchpadListing, TellsIOSUnsupportedAndMisplacedApplications) {
     const MacPath home = small.mac.volume.home();
     addApp(1, "A", "com.example.a", 0, MacPath("/opt/A.app"));

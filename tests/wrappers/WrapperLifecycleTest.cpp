@@ -128,7 +128,6 @@ TEST_F(Lifecycle, SwapsAHiddenApplicationAndPutsItsFlagBack) {
 
     program->database.loadLaunchpadApps(); // which records hidden rows too
     EXPECT_EQ(program->settings.getHiddenFlagApp(tips.bundleID)->originalRowID, RowID{rows.original->row});
-    EXPECT_EQ(program->settings.getHiddenFlagApp(tips.bundleID)->tavrikRowID, RowID{rows.wrapper->row});
     EXPECT_TRUE(wrappers().removeWrapper(tips, RestartDock::yes));
     EXPECT_TRUE(log.has("Using special removal for hidden flag app: com.apple.tips"));
     EXPECT_FALSE(program->settings.getHiddenFlagApp(tips.bundleID)->tavrikRowID);
