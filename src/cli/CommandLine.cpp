@@ -41,6 +41,7 @@ CommandLine::CommandLine()
                "practice Mac.",
                "tavrikctl") {
     m_parser.require_subcommand(1);
+    m_parser.set_version_flag("--version", "tavrikctl " TAVRIK_VERSION);
     CLI::App* command = nullptr;
 
     AppsCommand& apps =

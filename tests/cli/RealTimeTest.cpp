@@ -1,4 +1,5 @@
 #include "RunningCompanion.h"
+#include "platform/ChildProcess.h"
 #include "platform/Sqlite.h"
 #include "practice/dock/Dock.h"
 
@@ -14,8 +15,7 @@ using testing::HasSubstr;
 
 namespace {
 
-/// Every row of the database with its placement, titles and identifiers, a line each, but for one identifier's
-/// second row.
+/// Every row of the database with its placement and identifier, a line each.
 std::vector<std::string> launchpadRows(const HostPath& root) {
     const HostPath file = root / "private/var/folders/tv/practice/0/com.apple.dock.launchpad/db/db";
     auto connection = sqlite::Connection::open(file, sqlite::OpenMode::readOnly);
@@ -26,6 +26,27 @@ std::vector<std::string> launchpadRows(const HostPath& root) {
     while (statement.step() == sqlite::Step::row)
         rows.push_back(*statement.text(0));
     return rows;
+}
+
+/// What Python's own readers make of every property list and of the database: "ok", or the first complaint.
+std::string readByOthers(const HostPath& root) {
+    constexpr const char* kScript = R"(
+import pathlib, plistlib, sqlite3, sys
+root = pathlib.Path(sys.argv[1])
+lists = [p for p in root.rglob('*.plist') if p.is_file() and not p.is_symlink() and not p.name.startswith('._')]
+assert any(p.name == 'AppSettings.plist' for p in lists) and any(p.name == 'com.apple.dock.plist' for p in lists)
+for path in lists:
+    try:
+        plistlib.loads(path.read_bytes())
+    except Exception as error:
+        sys.exit(f'{path}: {error!r}')
+for path in root.rglob('com.apple.dock.launchpad/db/db'):
+    with sqlite3.connect(path) as db:
+        print(db.execute('PRAGMA integrity_check').fetchone()[0],
+              db.execute("SELECT value FROM dbinfo WHERE key='ignore_items_update_triggers'").fetchone()[0])
+)";
+    const auto result = runChild(HostPath("/usr/bin/python3"), {"-c", kScript, root.string()}, {});
+    return result ? result->output + result->errors : result.error().description;
 }
 
 } // namespace
@@ -51,6 +72,7 @@ TEST(CompanionInRealTime, RestylesAnApplicationOfTheDockAndGivesItBack) {
     EXPECT_THAT(created.output, HasSubstr("Successfully swapped to tavrik app"));
     EXPECT_EQ(companion.livingProcesses(), 0) << "no Dock may outlive the program";
 
+    EXPECT_EQ(readByOthers(companion.root()), "ok 0\n");
     const QJsonArray restyled = companion.json({"dock", "--json"});
     EXPECT_THAT(restyled[1].toObject()[QLatin1String("path")].toString().toStdString(),
                 HasSubstr("/Applications/Tavrik/"));
