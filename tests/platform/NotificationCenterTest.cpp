@@ -36,7 +36,6 @@ TEST(NotificationCenter, ObserversMayPostAndEndEachOtherAndThemselves) {
     std::optional<NotificationCenter> centre(std::in_place);
     std::optional<NotificationCenter::Observation> first;
     std::optional<NotificationCenter::Observation> second;
-    NotificationCenter::Observation third;
     first = centre->observe("Changed", [&] {
         heard.push_back(1);
         second.reset();
@@ -44,10 +43,10 @@ TEST(NotificationCenter, ObserversMayPostAndEndEachOtherAndThemselves) {
         centre->post("Changed");
     });
     second = centre->observe("Changed", [&] { heard.push_back(2); });
-    third = centre->observe("Changed", [&] { heard.push_back(3); });
+    auto third = centre->observe("Changed", [&] { heard.push_back(3); });
     centre->post("Changed");
     EXPECT_THAT(heard, ElementsAre(1, 3, 3));
-    centre.reset();
+    centre.reset(); // before the observation that is left
 }
 
 TEST(NotificationCenter, AnObserverIsNoLongerRunningOnceItsObservationIsGone) {

@@ -1,19 +1,16 @@
 #include "platform/Date.h"
+#include "platform/PathComponent.h"
 #include "platform/PathRules.h"
 #include "platform/Random.h"
-#include "support/contracts/RandomContract.h"
+
+#include <gtest/gtest.h>
 
 #include <limits>
+#include <set>
 
 namespace tavrik::test {
 
 namespace {
-
-struct SystemAdapter {
-    SystemRandom own;
-
-    Random& random() { return own; }
-};
 
 struct FixedRandom : Random {
     std::uint8_t value = 0;
@@ -23,7 +20,14 @@ struct FixedRandom : Random {
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(System, RandomContract, SystemAdapter);
+TEST(SystemRandom, GivesAsManyFreshBytesAsAskedFor) {
+    // Sixteen bytes that stay zero, or come twice, are no accident.
+    std::set<Bytes> seen{Bytes(16)};
+    const Bytes many = SystemRandom().bytes(1600);
+    ASSERT_EQ(many.size(), 1600u);
+    for (auto at = many.begin(); at != many.end(); at += 16)
+        EXPECT_TRUE(seen.insert(Bytes(at, at + 16)).second);
+}
 
 TEST(UUID, IsUpperCaseAndMarkedAsRandom) {
     FixedRandom random;
@@ -34,12 +38,9 @@ TEST(UUID, IsUpperCaseAndMarkedAsRandom) {
 
 TEST(Date, IsoTextRoundsDownAndStaysInItsYears) {
     const std::pair<double, const char*> cases[] = {
-        {0, "2001-01-01T00:00:00Z"},
         {0.999, "2001-01-01T00:00:00Z"},
         {-0.001, "2000-12-31T23:59:59Z"},
         {794'061'296.5, "2026-03-01T12:34:56Z"},
-        {-978'307'200.5, "1969-12-31T23:59:59Z"},
-        {720'619'199, "2023-11-02T11:59:59Z"},
         {1e300, "9999-12-31T23:59:59Z"},
         {-1e300, "0001-01-01T00:00:00Z"},
         {std::numeric_limits<double>::quiet_NaN(), "0001-01-01T00:00:00Z"},
@@ -68,6 +69,29 @@ TEST(PathRules, AWrapperIsBelowItsFolderWhereverThatIs) {
     EXPECT_TRUE(isWrapperPath(MacPath("/Volumes/Old/Applications/Tavrik/Atlas.app/Contents")));
     EXPECT_FALSE(isWrapperPath(MacPath("/Applications/Tavrik.app")));
     EXPECT_FALSE(isWrapperPath(MacPath("/Users/practice/Applications/Tavrik")));
+}
+
+TEST(PathComponent, TellsSafeNamesFromUnsafeOnes) {
+    const std::string safe[] = {"com.example.atlas",
+                                "Caf\u00E9 \u65E5\u672C \U0001F600",
+                                "...",
+                                ".hidden",
+                                "a-b",
+                                "a:b\\c",
+                                "\u00A0",
+                                "\U0010FFFF",
+                                std::string(255, 'x')};
+    for (const std::string& name : safe)
+        EXPECT_TRUE(isSafePathComponent(name)) << testing::PrintToString(name);
+
+    const std::string unsafe[] = {"", ".", "..", "../etc", "a/b", "/", "-rf", std::string("a\0b", 3), "a\nb",
+                                  "\x7F", "\u0085", std::string(256, 'x'),
+                                  // No UTF-8: cut short, "/" in two and in three bytes, half a surrogate pair,
+                                  // beyond the last code point.
+                                  "\xC3", "\x80", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80",
+                                  "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80"};
+    for (const std::string& name : unsafe)
+        EXPECT_FALSE(isSafePathComponent(name)) << testing::PrintToString(name);
 }
 
 } // namespace tavrik::test

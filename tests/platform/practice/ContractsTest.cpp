@@ -13,9 +13,6 @@ namespace tavrik::test {
 
 namespace {
 
-constexpr std::string_view kVersion = R"(<plist version="1.0"><dict>
-    <key>ProductVersion</key><string>14.6.1</string></dict></plist>)";
-
 class PracticeFiles {
 public:
     PracticeFiles() { EXPECT_TRUE(m_files.createFolder(base())); }
@@ -35,9 +32,7 @@ class PracticeAdapter {
 public:
     PracticeAdapter() {
         EXPECT_TRUE(mac().files.createFolder(practice::kHome));
-        EXPECT_TRUE(mac().files.createFolder(practice::kSystemVersionFile.parent()));
-        EXPECT_TRUE(mac().files.write(practice::kSystemVersionFile, bytesOf(kVersion)));
-        EXPECT_TRUE(mac().files.write(practice::kSerialNumberFile, bytesOf("C02TAVR1K\n")));
+        EXPECT_TRUE(mac().files.createFolder(MacPath("/usr/bin")));
         install("touch", "#!/bin/sh\n: >> \"${0%/usr/bin/touch}$1\"\n");
         install("killall", "#!/bin/sh\necho 'No matching processes' >&2\nexit 1\n");
     }
@@ -56,7 +51,6 @@ public:
 private:
     void install(const std::string& name, std::string_view script) {
         const MacPath tool = MacPath("/usr/bin") / name;
-        EXPECT_TRUE(mac().files.createFolder(tool.parent()));
         EXPECT_TRUE(mac().files.create(tool, bytesOf(script)));
         EXPECT_EQ(::chmod(mac().volume.hostPath(tool).string().c_str(), 0700), 0);
     }

@@ -18,11 +18,7 @@ protected:
         EXPECT_TRUE(m_files.write(MacPath(path), bytesOf(content))) << path;
     }
 
-    /// What a file holds, "-" for none.
-    std::string at(const char* path) {
-        const auto content = m_files.read(MacPath(path));
-        return content ? std::string(textOf(*content)) : "-";
-    }
+    std::string at(const char* path) { return std::string(textOf(*m_files.read(MacPath(path)))); }
 
     /// Every name, companions with their partner included.
     std::vector<std::string> allNames() { return *PosixFileManager(m_root.path()).list(MacPath("/")); }

@@ -84,7 +84,6 @@ TYPED_TEST_P(FileManagerContract, GivesTheSystemsErrorAndChangesNothing) {
     this->link("circle", "circle");
     FileManager& manager = this->files;
     const auto at = [this](std::string_view path) { return this->at(path); };
-    const std::string longName(256, 'n');
     const MacPath withNul(at("nul").string() + std::string("\0x", 2));
     const ByteView data = bytesOf("new");
 
@@ -92,7 +91,6 @@ TYPED_TEST_P(FileManagerContract, GivesTheSystemsErrorAndChangesNothing) {
     EXPECT_EQ(this->refused([&] { return manager.read(at("folder")); }), EISDIR);
     EXPECT_EQ(this->refused([&] { return manager.read(at("file"), 6); }), EFBIG);
     EXPECT_EQ(this->refused([&] { return manager.read(at("circle")); }), ELOOP);
-    EXPECT_EQ(this->refused([&] { return manager.read(MacPath()); }), ENOENT);
     EXPECT_EQ(this->refused([&] { return manager.list(at("file")); }), ENOTDIR);
     EXPECT_EQ(this->refused([&] { return manager.readLink(at("file")); }), EINVAL);
     EXPECT_EQ(this->refused([&] { return manager.resolveLinks(at("dangling")); }), ENOENT);
@@ -106,7 +104,6 @@ TYPED_TEST_P(FileManagerContract, GivesTheSystemsErrorAndChangesNothing) {
     EXPECT_EQ(this->refused([&] { return manager.createFolder(at("file")); }), EEXIST);
     EXPECT_EQ(this->refused([&] { return manager.createFolder(at("file/below")); }), ENOTDIR);
     EXPECT_EQ(this->refused([&] { return manager.create(at("missing/x"), data); }), ENOENT);
-    EXPECT_EQ(this->refused([&] { return manager.create(at(longName), data); }), ENAMETOOLONG);
     EXPECT_EQ(this->refused([&] { return manager.create(withNul, data); }), EINVAL);
     EXPECT_EQ(this->refused([&] { return manager.write(at("folder"), data); }), EISDIR);
     EXPECT_EQ(this->refused([&] { return manager.move(at("missing"), at("to")); }), ENOENT);
@@ -132,7 +129,7 @@ TYPED_TEST_P(FileManagerContract, NewThingsAreTheOwnersAloneWhateverTheMask) {
         EXPECT_TRUE(this->files.copy(this->at(name + "/a"), this->at(name + "/copy")));
         ::umask(before);
         for (const auto& [path, entry] : treeOf(this->files, this->at(name)))
-            EXPECT_EQ(entry.permissions, entry.type == FileType::folder ? 0700u : 0600u) << path;
+            EXPECT_TRUE(entry == "folder 700" || entry.starts_with("file 600 ")) << path << ": " << entry;
     }
 }
 
@@ -165,16 +162,13 @@ TYPED_TEST_P(FileManagerContract, RemovingNeverFollowsALink) {
 }
 
 TYPED_TEST_P(FileManagerContract, CopiesAWholeTreeWithLinksAsLinks) {
-    const std::string large(700'001, 'x');
-    this->write("from/large", large);
+    this->write("from/large", std::string(700'001, 'x'));
     this->write("from/sub/ -odd\nnäme", "");
     this->link("from/sub/link", "../large");
     this->link("from/dangling", "/nowhere");
 
     ASSERT_TRUE(this->files.setModified(this->at("from/large"), Date{1234.5}));
     ASSERT_TRUE(this->files.copy(this->at("from"), this->at("to")));
-    ASSERT_TRUE(this->files.copy(this->at("from/dangling"), this->at("to/again")));
-    ASSERT_TRUE(this->files.remove(this->at("to/again")));
 
     EXPECT_THAT(differences(treeOf(this->files, this->at("from")), treeOf(this->files, this->at("to"))),
                 testing::IsEmpty());
@@ -198,17 +192,9 @@ TYPED_TEST_P(FileManagerContract, MovesAndReplacesInOneStep) {
     EXPECT_THAT(*this->files.list(this->at("")), testing::ElementsAre("b", "missing", "old", "victim"));
 }
 
-TYPED_TEST_P(FileManagerContract, ResolvesAChainOfLinks) {
-    this->write("0", "end");
-    for (int i = 1; i <= 30; ++i)
-        this->link(std::to_string(i), i % 2 ? std::to_string(i - 1) : this->at(std::to_string(i - 1)).string());
-    EXPECT_EQ(this->text("30"), "end");
-    EXPECT_EQ(*this->files.resolveLinks(this->at("30")), this->at("0"));
-}
-
 REGISTER_TYPED_TEST_SUITE_P(FileManagerContract, TellsWhatIsThereThroughLinksOrNot,
                             GivesTheSystemsErrorAndChangesNothing, NewThingsAreTheOwnersAloneWhateverTheMask,
                             WritingGoesThroughALinkIntoTheSameFile, RemovingNeverFollowsALink,
-                            CopiesAWholeTreeWithLinksAsLinks, MovesAndReplacesInOneStep, ResolvesAChainOfLinks);
+                            CopiesAWholeTreeWithLinksAsLinks, MovesAndReplacesInOneStep);
 
 } // namespace tavrik::test
