@@ -1,23 +1,16 @@
 #pragma once
 
-#include "platform/FileDescriptor.h"
 #include "platform/Path.h"
+#include "platform/SpawnPlan.h"
 
 #include <sys/types.h>
 
 #include <mutex>
-#include <optional>
 
 namespace tavrik::practice {
 
-/// The pipe by which a Dock learns that its keeper is gone. Neither end is handed to a child but the reading
-/// end, on purpose, to the Dock.
-struct Lifeline {
-    Lifeline();
-
-    FileDescriptor reading;
-    FileDescriptor writing;
-};
+/// By this a Dock learns that its keeper is gone: it reads, and the keeper alone holds the writing end.
+using Lifeline = Pipe;
 
 /// One Dock as a child process. Waiting and killing may happen on two threads.
 class DockProcess {

@@ -1,11 +1,11 @@
 #include "platform/ChildProcess.h"
 
 #include "platform/FileDescriptor.h"
+#include "platform/SpawnPlan.h"
 #include "platform/Threads.h"
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,8 +15,6 @@
 #include <csignal>
 #include <optional>
 #include <thread>
-
-extern char** environ;
 
 namespace tavrik {
 
@@ -37,14 +35,9 @@ constexpr std::size_t kMostInAPipe = 1u << 20; // bytes
 class Output {
 public:
     std::error_code open() {
-        std::array<int, 2> ends{};
-        if (::pipe(ends.data()) != 0)
-            return lastError();
-        FileDescriptor reading(ends[0]);
-        FileDescriptor writing(ends[1]);
-        // Above the three standard numbers, so that giving the child its own three overwrites none of these.
-        m_reading = FileDescriptor(::fcntl(reading.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
-        m_writing = FileDescriptor(::fcntl(writing.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+        Pipe pipe;
+        m_reading = std::move(pipe.reading);
+        m_writing = std::move(pipe.writing);
         if (!m_reading || !m_writing || ::fcntl(m_reading.number(), F_SETFL, O_NONBLOCK) != 0)
             return lastError();
         return {};
@@ -78,61 +71,6 @@ public:
 private:
     FileDescriptor m_reading;
     FileDescriptor m_writing;
-};
-
-/// How the child is started: nothing to read, our two pipes to write to, a process group of its own, and
-/// signals as a fresh program expects them.
-class SpawnPlan {
-public:
-    SpawnPlan(int output, int errors) {
-        note(::posix_spawn_file_actions_init(&m_actions));
-        note(::posix_spawnattr_init(&m_attributes));
-        note(::posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-        note(::posix_spawn_file_actions_adddup2(&m_actions, output, STDOUT_FILENO));
-        note(::posix_spawn_file_actions_adddup2(&m_actions, errors, STDERR_FILENO));
-        sigset_t signals;
-        sigemptyset(&signals);
-        note(::posix_spawnattr_setsigmask(&m_attributes, &signals));
-        sigfillset(&signals);
-        sigdelset(&signals, SIGKILL);
-        sigdelset(&signals, SIGSTOP);
-        note(::posix_spawnattr_setsigdefault(&m_attributes, &signals));
-        note(::posix_spawnattr_setpgroup(&m_attributes, 0));
-        note(::posix_spawnattr_setflags(
-            &m_attributes,
-            static_cast<short>(POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF)));
-    }
-
-    ~SpawnPlan() {
-        ::posix_spawn_file_actions_destroy(&m_actions);
-        ::posix_spawnattr_destroy(&m_attributes);
-    }
-
-    SpawnPlan(const SpawnPlan&) = delete;
-    SpawnPlan& operator=(const SpawnPlan&) = delete;
-
-    std::error_code start(const std::string& program, const std::vector<std::string>& arguments, pid_t& child) {
-        std::vector<std::string> texts{program};
-        texts.insert(texts.end(), arguments.begin(), arguments.end());
-        std::vector<char*> pointers;
-        pointers.reserve(texts.size() + 1);
-        for (std::string& text : texts)
-            pointers.push_back(text.data());
-        pointers.push_back(nullptr);
-        if (m_failure == 0)
-            note(::posix_spawn(&child, program.c_str(), &m_actions, &m_attributes, pointers.data(), environ));
-        return {m_failure, std::generic_category()};
-    }
-
-private:
-    void note(int result) {
-        if (m_failure == 0)
-            m_failure = result;
-    }
-
-    posix_spawn_file_actions_t m_actions{};
-    posix_spawnattr_t m_attributes{};
-    int m_failure = 0;
 };
 
 /// The child from its start until it is reaped.
@@ -219,7 +157,10 @@ Result<ToolResult> runChild(const HostPath& program, const std::vector<std::stri
     const milliseconds time = std::min(limits.time, kLongestRun);
     const Deadline deadline = std::chrono::steady_clock::now() + time;
     pid_t pid = -1;
-    SpawnPlan plan(outputs[0].childEnd(), outputs[1].childEnd());
+    SpawnPlan plan;
+    plan.open("/dev/null", O_RDONLY, STDIN_FILENO);
+    plan.give(outputs[0].childEnd(), STDOUT_FILENO);
+    plan.give(outputs[1].childEnd(), STDERR_FILENO);
     if (const auto failed = plan.start(program.string(), arguments, pid))
         return failure(program, failed);
     for (Output& output : outputs)
