@@ -55,7 +55,7 @@ private:
 };
 
 /// The one object of a binary list with nothing else in it, marker first. It shows what libplist's getters
-/// round or leave out: all bits of a date, and whether an integer is signed.
+/// round or leave out: all bits of a date, and whether an integer is signed. Making one takes libplist long.
 Bytes objectBytes(plist_t node) {
     char* data = nullptr;
     std::uint32_t size = 0;
@@ -84,6 +84,27 @@ std::optional<Value> integerOf(plist_t node) {
             return Value(static_cast<std::int64_t>(number));
     }
     return Value(number);
+}
+
+// Newer versions of libplist would rather have moments since 1970, which older ones do not know.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+/// A whole second within 32 bits; nothing for another date, which the getter rounds.
+std::optional<Date> wholeSecondOf(plist_t node) {
+    std::int32_t seconds = 0;
+    std::int32_t microseconds = 0;
+    plist_get_date_val(node, &seconds, &microseconds);
+    const Node wholeSecond(plist_new_date(seconds, 0));
+    return plist_compare_node_value(node, wholeSecond.get()) ? std::optional(Date{static_cast<double>(seconds)})
+                                                             : std::nullopt;
+}
+
+#pragma GCC diagnostic pop
+
+Date dateOf(plist_t node) {
+    const auto wholeSecond = wholeSecondOf(node);
+    return wholeSecond ? *wholeSecond : Date{std::bit_cast<double>(lastEightBytes(objectBytes(node)))};
 }
 
 std::optional<Value> valueOf(plist_t node, Format format);
@@ -151,7 +172,7 @@ std::optional<Value> valueOf(plist_t node, Format format) {
         return Value(data ? Bytes(data, data + size) : Bytes());
     }
     case PLIST_DATE:
-        return Value(Date{std::bit_cast<double>(lastEightBytes(objectBytes(node)))});
+        return Value(dateOf(node));
     case PLIST_BOOLEAN: {
         std::uint8_t flag = 0;
         plist_get_bool_val(node, &flag);
