@@ -52,20 +52,14 @@ std::error_code makeFolder(const std::string& path) {
 PosixFileManager::PosixFileManager(HostPath root) : m_root(std::move(root)) {}
 
 bool PosixFileManager::exists(const MacPath& path) const {
-    const auto host = locate(path, Links::follow);
     struct stat status{};
-    return host && ::stat(host->c_str(), &status) == 0;
+    return !look(path, Links::follow, status);
 }
 
 Result<FileAttributes> PosixFileManager::attributes(const MacPath& path, Links links) const {
-    const auto host = locate(path, links);
-    if (!host)
-        return host.error();
     struct stat status{};
-    const int result =
-        links == Links::follow ? ::stat(host->c_str(), &status) : ::lstat(host->c_str(), &status);
-    if (result != 0)
-        return failure(path, lastError());
+    if (const auto failed = look(path, links, status))
+        return failure(path, failed);
     return FileAttributes{.type = typeOf(status.st_mode),
                           .size = static_cast<std::uint64_t>(status.st_size),
                           .modified = dateOf(modificationTime(status)),

@@ -2,6 +2,8 @@
 
 #include "platform/FileManager.h"
 
+#include <sys/stat.h>
+
 #include <system_error>
 
 namespace tavrik {
@@ -44,14 +46,15 @@ private:
     static Error failure(const MacPath& path, std::error_code reason);
     static Error failure(const MacPath& path, std::errc reason);
 
-    Result<MacPath> resolve(const MacPath& path, Links links) const;
-
     /// The path for a call to the system. On the host's own root the links are left to the system.
     Result<std::string> locate(const MacPath& path, Links links) const;
 
     /// The same for an entry that is to be made, moved or removed by its own name: "/", "." and ".." at the end
     /// are refused, since they would name a folder above.
     Result<std::string> locateEntry(const MacPath& path) const;
+
+    /// What is at a path.
+    std::error_code look(const MacPath& path, Links links, struct stat& status) const;
 
     HostPath m_root;
 };

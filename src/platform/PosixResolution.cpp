@@ -10,7 +10,7 @@
 #include <climits>
 #include <optional>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace tavrik {
 
@@ -18,123 +18,160 @@ namespace {
 
 constexpr int kMostLinks = 40;
 
+std::error_code refusal(const std::string& path) {
+    if (path.empty())
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    if (path.front() != '/' || path.find('\0') != std::string::npos)
+        return std::make_error_code(std::errc::invalid_argument);
+    return {};
+}
+
+/// Asks the system what is at a path of the host.
+std::error_code ask(const std::string& host, Links links, struct stat& status) {
+    const int result = links == Links::follow ? ::stat(host.c_str(), &status) : ::lstat(host.c_str(), &status);
+    return result == 0 ? std::error_code() : lastError();
+}
+
 /// Walks a path component by component below a folder of the host, which it never leaves.
 class Walk {
 public:
-    explicit Walk(std::string root) : m_root(std::move(root)), m_host(m_root) {}
+    explicit Walk(const HostPath& root)
+        : m_host(root.string() == "/" ? std::string() : root.string()),
+          m_rootSize(m_host.size()) {}
 
-    std::error_code go(std::string_view path, Links links) {
-        push(path);
-        while (!m_ahead.empty()) {
-            const std::string component = std::move(m_ahead.back());
-            m_ahead.pop_back();
-            if (const auto failed = step(component, m_ahead.empty() && links == Links::dontFollow))
+    std::error_code go(const MacPath& path, Links links) {
+        if (const auto refused = refusal(path.string()))
+            return refused;
+        m_ahead = path.string();
+        while (hasMore()) {
+            const std::string_view component = takeComponent();
+            if (const auto failed = step(component, !hasMore(), links))
                 return failed;
         }
         return {};
     }
 
     /// Where it has come to, seen from the root.
-    std::string reached() const { return m_host.size() == m_root.size() ? "/" : m_host.substr(m_root.size()); }
+    std::string reached() const { return atRoot() ? "/" : m_host.substr(m_rootSize); }
 
-private:
-    void push(std::string_view path) {
-        const std::size_t before = m_ahead.size();
-        while (!path.empty()) {
-            const std::size_t length = std::min(path.find('/'), path.size());
-            if (length > 0)
-                m_ahead.emplace_back(path.substr(0, length));
-            path.remove_prefix(std::min(length + 1, path.size()));
+    /// What is there, which a walk that follows the last link mostly knows already.
+    std::error_code look(Links links, struct stat& status) const {
+        if (m_last) {
+            status = *m_last;
+            return {};
         }
-        std::reverse(m_ahead.begin() + static_cast<std::ptrdiff_t>(before), m_ahead.end());
+        if (m_lastIsMissing)
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        return ask(m_host.empty() ? "/" : m_host, links, status);
     }
 
-    std::error_code step(const std::string& component, bool takeAsItIs) {
+private:
+    bool atRoot() const { return m_host.size() == m_rootSize; }
+
+    bool hasMore() {
+        m_next = std::min(m_ahead.find_first_not_of('/', m_next), m_ahead.size());
+        return m_next < m_ahead.size();
+    }
+
+    std::string_view takeComponent() {
+        const std::size_t end = std::min(m_ahead.find('/', m_next), m_ahead.size());
+        const std::size_t start = std::exchange(m_next, end);
+        return std::string_view(m_ahead).substr(start, end - start);
+    }
+
+    std::error_code step(std::string_view component, bool isLast, Links links) {
         if (component == "." || component == "..") {
             if (const auto failed = expectFolder())
                 return failed;
-            if (component == ".." && m_host.size() > m_root.size())
+            if (component == ".." && !atRoot())
                 m_host.resize(m_host.rfind('/'));
             return {};
         }
         const std::size_t before = m_host.size();
         m_host += '/';
         m_host += component;
-        if (takeAsItIs)
-            return {};
-        std::array<char, PATH_MAX> target{};
+        if (isLast)
+            return links == Links::follow ? stepToLast(before) : std::error_code();
+        return followLink(before);
+    }
+
+    std::error_code stepToLast(std::size_t before) {
+        struct stat status{};
+        if (const auto failed = ask(m_host, Links::dontFollow, status)) {
+            m_lastIsMissing = failed == std::errc::no_such_file_or_directory;
+            return m_lastIsMissing ? std::error_code() : failed;
+        }
+        if (S_ISLNK(status.st_mode))
+            return followLink(before);
+        m_last = status;
+        return {};
+    }
+
+    /// Goes back to where the target begins when a link has been reached.
+    std::error_code followLink(std::size_t before) {
+        std::array<char, PATH_MAX> target; // left as it is: clearing it costs as much as the rest
         const ssize_t length = ::readlink(m_host.c_str(), target.data(), target.size());
         if (length < 0)
-            return afterNoLink(errno);
+            return errno == EINVAL ? std::error_code() : lastError();
         if (++m_links > kMostLinks)
             return std::make_error_code(std::errc::too_many_symbolic_link_levels);
         const std::string_view text(target.data(), static_cast<std::size_t>(length));
         if (text.empty())
             return std::make_error_code(std::errc::no_such_file_or_directory);
-        m_host.resize(text.front() == '/' ? m_root.size() : before);
-        push(text);
+        m_host.resize(text.front() == '/' ? m_rootSize : before);
+        m_ahead.replace(0, m_next, std::string(text) + '/');
+        m_next = 0;
         return {};
-    }
-
-    /// What asking for a link's target came to, where there was none to read.
-    std::error_code afterNoLink(int code) const {
-        const bool isNoLink = code == EINVAL;
-        const bool lastIsMissing = code == ENOENT && m_ahead.empty();
-        return isNoLink || lastIsMissing ? std::error_code() : std::error_code(code, std::generic_category());
     }
 
     std::error_code expectFolder() const {
         struct stat status{};
-        if (m_host.size() == m_root.size())
+        if (atRoot())
             return {};
-        if (::lstat(m_host.c_str(), &status) != 0)
-            return lastError();
+        if (const auto failed = ask(m_host, Links::dontFollow, status))
+            return failed;
         return S_ISDIR(status.st_mode) ? std::error_code() : std::make_error_code(std::errc::not_a_directory);
     }
 
-    const std::string m_root; // without a "/" at its end: empty for the host's own root
     std::string m_host;
-    std::vector<std::string> m_ahead; // the next one last
+    const std::size_t m_rootSize; // without a "/" at its end: 0 for the host's own root
+    std::string m_ahead;
+    std::size_t m_next = 0; // where in it the part begins that is still to be walked
     int m_links = 0;
+    std::optional<struct stat> m_last;
+    bool m_lastIsMissing = false;
 };
-
-std::optional<std::error_code> refusal(const std::string& path) {
-    if (path.empty())
-        return std::make_error_code(std::errc::no_such_file_or_directory);
-    if (path.front() != '/' || path.find('\0') != std::string::npos)
-        return std::make_error_code(std::errc::invalid_argument);
-    return std::nullopt;
-}
 
 } // namespace
 
-Result<MacPath> PosixFileManager::resolve(const MacPath& path, Links links) const {
-    if (const auto refused = refusal(path.string()))
-        return failure(path, *refused);
-    Walk walk(m_root.string() == "/" ? std::string() : m_root.string());
-    if (const auto failed = walk.go(path.string(), links))
-        return failure(path, failed);
-    return MacPath(walk.reached());
-}
-
 Result<HostPath> PosixFileManager::hostPath(const MacPath& path, Links links) const {
-    const auto resolved = resolve(path, links);
-    if (!resolved)
-        return resolved.error();
-    return m_root / resolved->string();
+    Walk walk(m_root);
+    if (const auto failed = walk.go(path, links))
+        return failure(path, failed);
+    return m_root / walk.reached();
 }
 
 Result<std::string> PosixFileManager::locate(const MacPath& path, Links links) const {
     // The host's own volume needs no detour: the system follows the links itself.
     if (m_root.string() == "/") {
         if (const auto refused = refusal(path.string()))
-            return failure(path, *refused);
+            return failure(path, refused);
         return path.string();
     }
     const auto host = hostPath(path, links);
     if (!host)
         return host.error();
     return host->string();
+}
+
+std::error_code PosixFileManager::look(const MacPath& path, Links links, struct stat& status) const {
+    if (m_root.string() == "/") {
+        const auto refused = refusal(path.string());
+        return refused ? refused : ask(path.string(), links, status);
+    }
+    Walk walk(m_root);
+    const auto failed = walk.go(path, links);
+    return failed ? failed : walk.look(links, status);
 }
 
 Result<std::string> PosixFileManager::locateEntry(const MacPath& path) const {
@@ -145,13 +182,14 @@ Result<std::string> PosixFileManager::locateEntry(const MacPath& path) const {
 }
 
 Result<MacPath> PosixFileManager::resolveLinks(const MacPath& path) const {
-    auto resolved = resolve(path, Links::follow);
-    if (!resolved)
-        return resolved;
-    const auto present = attributes(*resolved, Links::dontFollow);
-    if (!present)
-        return failure(path, std::error_code(present.error().code, std::generic_category()));
-    return resolved;
+    Walk walk(m_root);
+    struct stat status{};
+    auto failed = walk.go(path, Links::follow);
+    if (!failed)
+        failed = walk.look(Links::follow, status);
+    if (failed)
+        return failure(path, failed);
+    return MacPath(walk.reached());
 }
 
 Error PosixFileManager::failure(const MacPath& path, std::error_code reason) {

@@ -71,6 +71,17 @@ TEST_F(PosixFileManagerTest, WalksAsTheSystemDoes) {
     EXPECT_EQ(files.resolveLinks(MacPath("/41/b")).error().code, ELOOP);
 }
 
+TEST_F(PosixFileManagerTest, KnowsWhatIsAtTheEndOfEveryWay) {
+    ASSERT_TRUE(files.createLink(MacPath("/top"), "/"));
+    ASSERT_TRUE(files.createLink(MacPath("/up"), "a//b/../"));
+    for (const char* path : {"/", "/..", "/a/.", "/a/b/..", "/top", "/top/a", "/up"}) {
+        const auto there = files.attributes(MacPath(path));
+        EXPECT_TRUE(there && there->type == FileType::folder) << path;
+    }
+    EXPECT_EQ(*files.resolveLinks(MacPath("/up/b")), MacPath("/a/b"));
+    EXPECT_EQ(*PosixFileManager(HostPath("/")).resolveLinks(MacPath("/")), MacPath("/"));
+}
+
 TEST_F(PosixFileManagerTest, NothingIsLeftOfWhatDoesNotFitOnTheDisk) {
     EXPECT_EQ(files.write(MacPath("/tree/large"), {}).error().code, ENOENT);
     ASSERT_TRUE(files.createFolder(MacPath("/tree")));
