@@ -1,12 +1,17 @@
 #include "practice/furnish/InstalledPrograms.h"
 
+#include "platform/FileDescriptor.h"
+#include "platform/PosixSystem.h"
 #include "platform/practice/Layout.h"
 #include "practice/furnish/HostFiles.h"
 #include "practice/process/FileLock.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace tavrik::practice {
@@ -36,18 +41,34 @@ HostPath hostPlace(const HostPath& root, const MacPath& place) {
     return root / place.string();
 }
 
-bool areCurrent(const HostPath& root, const std::vector<MacPath>& places, const Bytes& content) {
+/// Whether each place has a program of the size and the date of the source, which installing gives it. Contents
+/// would tell the same, but every start of a program waits for this.
+bool areCurrent(const HostPath& root, const std::vector<MacPath>& places, const struct stat& source) {
+    const timespec changed = modificationTime(source);
     return std::ranges::all_of(places, [&](const MacPath& place) {
-        const HostPath file = hostPlace(root, place);
-        if (::access(file.string().c_str(), X_OK) != 0)
+        struct stat installed{};
+        if (::lstat(hostPlace(root, place).string().c_str(), &installed) != 0)
             return false;
-        const Result<Bytes> installed = readHostFile(file);
-        return installed && *installed == content;
+        const timespec date = modificationTime(installed);
+        return S_ISREG(installed.st_mode) && (installed.st_mode & S_IXUSR) != 0 &&
+               installed.st_size == source.st_size && date.tv_sec == changed.tv_sec &&
+               date.tv_nsec == changed.tv_nsec;
     });
 }
 
+/// A new program with the source's date.
+Status makeProgram(const HostPath& file, const Bytes& content, const struct stat& source) {
+    if (Status made = createHostFile(file, content, 0755); !made)
+        return made;
+    const std::array<timespec, 2> dates{timespec{0, UTIME_OMIT}, modificationTime(source)};
+    if (::utimensat(AT_FDCWD, file.string().c_str(), dates.data(), 0) != 0)
+        return hostError("date", file, lastError());
+    return Done{};
+}
+
 /// Gives the program all its names: one file, or several where the host has no second names for a file.
-Status install(const HostPath& root, const std::vector<MacPath>& places, const Bytes& content) {
+Status install(const HostPath& root, const std::vector<MacPath>& places, const Bytes& content,
+               const struct stat& source) {
     const HostPath first = hostPlace(root, places.front());
     for (const MacPath& place : places) {
         const HostPath file = hostPlace(root, place);
@@ -58,7 +79,7 @@ Status install(const HostPath& root, const std::vector<MacPath>& places, const B
             return rest;
         const bool isLinked = file != first && ::link(first.string().c_str(), fresh.string().c_str()) == 0;
         if (!isLinked)
-            if (Status made = createHostFile(fresh, content, 0755); !made)
+            if (Status made = makeProgram(fresh, content, source); !made)
                 return made;
         if (Status renamed = renameHost(fresh, file); !renamed)
             return renamed;
@@ -70,17 +91,20 @@ Status install(const HostPath& root, const std::vector<MacPath>& places, const B
 
 Status installPrograms(const HostPath& root, const Programs& programs, const HostPath& lock) {
     for (const Installation& installation : installationsOf(programs)) {
-        const Result<Bytes> content = readHostFile(installation.source);
-        if (!content)
-            return content.error();
-        if (areCurrent(root, installation.places, *content))
+        struct stat source{};
+        if (::stat(installation.source.string().c_str(), &source) != 0)
+            return hostError("read", installation.source, lastError());
+        if (areCurrent(root, installation.places, source))
             continue;
         const auto turn = FileLock::takeExisting(lock, FileLock::Wait::yes);
         if (!turn)
             return hostError("lock", lock, lastError());
-        if (areCurrent(root, installation.places, *content)) // made so by another program meanwhile
+        if (areCurrent(root, installation.places, source)) // made so by another program meanwhile
             continue;
-        if (Status installed = install(root, installation.places, *content); !installed)
+        const Result<Bytes> content = readHostFile(installation.source);
+        if (!content)
+            return content.error();
+        if (Status installed = install(root, installation.places, *content, source); !installed)
             return installed;
     }
     return Done{};
