@@ -33,6 +33,10 @@ public:
     PracticeAdapter() {
         EXPECT_TRUE(mac().files.createFolder(practice::kHome));
         EXPECT_TRUE(mac().files.createFolder(MacPath("/usr/bin")));
+        EXPECT_TRUE(mac().files.createFolder(practice::kSystemVersionFile.parent()));
+        EXPECT_TRUE(mac().files.create(
+            practice::kSystemVersionFile,
+            *plist::serialize(plist::Dictionary{{"ProductVersion", "14.6.1"}}, plist::Format::xml)));
         install("touch", "#!/bin/sh\n: >> \"${0%/usr/bin/touch}$1\"\n");
         install("killall", "#!/bin/sh\necho 'No matching processes' >&2\nexit 1\n");
     }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "platform/Alerts.h"
 #include "platform/Bookmarks.h"
+#include "platform/Clock.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
+#include "platform/Machine.h"
 #include "platform/PosixFileManager.h"
+#include "platform/Random.h"
 #include "platform/Tools.h"
 #include "platform/UserDefaults.h"
 #include "platform/Volume.h"
@@ -140,9 +144,38 @@ TYPED_TEST_P(MacContract, PostedNotificationsAreHeardInOrder) {
     EXPECT_THAT(heard, testing::ElementsAre("com.tavrik.contract.first", "com.tavrik.contract.second"));
 }
 
+TYPED_TEST_P(MacContract, SleepingTakesItsTime) {
+    Clock& clock = this->mac.clock;
+    const Date before = clock.now();
+    clock.sleep(std::chrono::milliseconds(30));
+    EXPECT_GE(clock.now().sinceReference - before.sinceReference, 0.029);
+}
+
+TYPED_TEST_P(MacContract, RandomBytesAreFresh) {
+    const Bytes first = this->mac.random.bytes(300);
+    EXPECT_EQ(first.size(), 300u);
+    EXPECT_NE(first, this->mac.random.bytes(300));
+    EXPECT_TRUE(this->mac.random.bytes(0).empty());
+}
+
+TYPED_TEST_P(MacContract, TheMachineIsKnownAndAQuestionAnswered) {
+    EXPECT_GE(this->mac.machine.systemVersion(), (SystemVersion{.major = 11}));
+    EXPECT_NE(this->mac.machine.serialNumber(), std::string()) << "an empty number is none";
+    EXPECT_LT(this->mac.alerts.ask({.title = "A", .text = "b", .buttons = {"Yes", "No"}}), 2u);
+}
+
+TYPED_TEST_P(MacContract, PlacesAreAbsolute) {
+    const Volume& volume = this->mac.volume;
+    EXPECT_TRUE(volume.temporaryFolder().starts_with("/") && volume.temporaryFolder().ends_with("/"));
+    EXPECT_TRUE(volume.applicationSupport().isInside(volume.home()));
+    EXPECT_TRUE(volume.resource("Warning.rtf").string().starts_with("/"));
+    EXPECT_EQ(volume.resource("Warning.rtf").name(), "Warning.rtf");
+}
+
 REGISTER_TYPED_TEST_SUITE_P(MacContract, HostPathLeadsToTheSameFile, BookmarksLeadBackToTheirTarget,
                             FileURLsAreEncodedAndAFoldersEndsInASlash, ACustomIconIsShownUntilItIsCleared,
                             ToolsGetTheirArgumentsAsTheyStand, DefaultsKeepEachTypeUntilRemoved,
-                            PostedNotificationsAreHeardInOrder);
+                            PostedNotificationsAreHeardInOrder, SleepingTakesItsTime, RandomBytesAreFresh,
+                            TheMachineIsKnownAndAQuestionAnswered, PlacesAreAbsolute);
 
 } // namespace tavrik::test
