@@ -112,8 +112,8 @@ void Easel::drawFolder(const QPointF& cell, double width, const LaunchpadFolder&
         for (const LaunchpadApp& app : page) {
             if (place >= kAcross * kAcross)
                 break;
-            const QPointF at(inset + (place % kAcross) * (kMini + kGap),
-                             inset + (place / kAcross) * (kMini + kGap));
+            const int row = place / kAcross;
+            const QPointF at(inset + (place % kAcross) * (kMini + kGap), inset + row * (kMini + kGap));
             drawIcon(tile + at, m_icons.application(app.path, pixels(kMini)));
             ++place;
         }

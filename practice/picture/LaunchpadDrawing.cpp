@@ -16,13 +16,15 @@ constexpr double kLineOfText = 36;
 constexpr double kDotSpace = 18;
 
 double rowsHeight(std::size_t items, std::size_t columns) {
-    return static_cast<double>((items + columns - 1) / columns) * Easel::kCellHeight;
+    const std::size_t rows = (items + columns - 1) / columns;
+    return static_cast<double>(rows) * Easel::kCellHeight;
 }
 
 /// The corner of the cell of one item.
 QPointF cellAt(std::size_t item, std::size_t columns, const QPointF& corner, double width) {
-    return corner + QPointF(static_cast<double>(item % columns) * width,
-                            static_cast<double>(item / columns) * Easel::kCellHeight);
+    const std::size_t row = item / columns;
+    return corner +
+           QPointF(static_cast<double>(item % columns) * width, static_cast<double>(row) * Easel::kCellHeight);
 }
 
 QString leftOutText(std::size_t count, const char* one, const char* several) {

@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kSvgSearch = 64 * 1024; ///< bytes before which the root of a drawing must begin
+constexpr std::size_t kSvgSearch = 64u << 10; ///< bytes before which the root of a drawing must begin
 
 bool isSvg(std::string_view text) {
     if (text.starts_with("\xEF\xBB\xBF"))

@@ -113,7 +113,7 @@ std::optional<QImage> IconManager::squareIcon(const QImage& from) {
         return from;
 
     const QRect rect = fittedRect(from.size());
-    const QImage scaled = from.isNull() ? QImage() : scaledInSRGB(from, rect.size());
+    QImage scaled = from.isNull() ? QImage() : scaledInSRGB(from, rect.size());
     if (scaled.size() == QSize(kSquareSide, kSquareSide))
         return scaled;
 
