@@ -34,8 +34,10 @@ LaunchpadIndex::LaunchpadIndex(sqlite::Connection& database, const FileManager& 
     : m_database(database),
       m_files(files) {}
 
-LaunchpadIndex::Outcome LaunchpadIndex::removeMissing(const std::vector<MacPath>& bundles) {
-    const auto candidates = missingRows(bundles);
+/// Looks without a lock first, since there is nothing to change as a rule, and again within the transaction.
+template<typename Find, typename Change>
+LaunchpadIndex::Outcome LaunchpadIndex::changeEach(Find find, Change change) {
+    const auto candidates = find();
     if (!candidates)
         return failure();
     if (candidates->empty())
@@ -44,28 +46,19 @@ LaunchpadIndex::Outcome LaunchpadIndex::removeMissing(const std::vector<MacPath>
     sqlite::Transaction transaction(m_database, "BEGIN IMMEDIATE TRANSACTION");
     if (!transaction.isOpen())
         return failure();
-    const auto rows = missingRows(bundles);
-    if (!rows || !switchTriggersOn() ||
-        !std::ranges::all_of(*rows, [this](std::int64_t row) { return remove(row); }))
+    const auto found = find();
+    if (!found || !switchTriggersOn() || !std::ranges::all_of(*found, change))
         return failure();
     return transaction.commit() ? Outcome::done : failure();
 }
 
-LaunchpadIndex::Outcome LaunchpadIndex::addNew(const std::vector<MacPath>& bundles) {
-    const auto candidates = newBundles(bundles);
-    if (!candidates)
-        return failure();
-    if (candidates->empty())
-        return Outcome::done;
+LaunchpadIndex::Outcome LaunchpadIndex::removeMissing(const std::vector<MacPath>& bundles) {
+    return changeEach([&] { return missingRows(bundles); }, [this](std::int64_t row) { return remove(row); });
+}
 
-    sqlite::Transaction transaction(m_database, "BEGIN IMMEDIATE TRANSACTION");
-    if (!transaction.isOpen())
-        return failure();
-    const auto found = newBundles(bundles);
-    if (!found || !switchTriggersOn() ||
-        !std::ranges::all_of(*found, [this](const MacPath& bundle) { return add(bundle); }))
-        return failure();
-    return transaction.commit() ? Outcome::done : failure();
+LaunchpadIndex::Outcome LaunchpadIndex::addNew(const std::vector<MacPath>& bundles) {
+    return changeEach([&] { return newBundles(bundles); },
+                      [this](const MacPath& bundle) { return add(bundle); });
 }
 
 std::optional<LaunchpadIndex::RowsByPath> LaunchpadIndex::rowsByPath() {

@@ -30,6 +30,8 @@ public:
     Outcome addNew(const std::vector<MacPath>& bundles);
 
 private:
+    template<typename Find, typename Change>
+    Outcome changeEach(Find find, Change change);
     /// Where the rows lead, by the path that each bookmark records, and the rows that lead there.
     using RowsByPath = std::multimap<MacPath, std::int64_t>;
 
