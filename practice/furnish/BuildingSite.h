@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/FileLock.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
-#include "practice/process/FileLock.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
 #include "practice/furnish/InstalledPrograms.h"
 
 #include "platform/FileDescriptor.h"
+#include "platform/FileLock.h"
 #include "platform/PosixSystem.h"
 #include "platform/practice/Layout.h"
 #include "practice/furnish/HostFiles.h"
-#include "practice/process/FileLock.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

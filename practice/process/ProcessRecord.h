@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/FileLock.h"
 #include "platform/Path.h"
-#include "practice/process/FileLock.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "practice/session/Session.h"
 
+#include "platform/FileLock.h"
 #include "platform/practice/Layout.h"
 #include "practice/dock/Dock.h"
-#include "practice/process/FileLock.h"
 #include "practice/process/ProcessRecord.h"
 #include "practice/session/DockProcess.h"
 

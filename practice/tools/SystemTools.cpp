@@ -1,9 +1,9 @@
 #include "practice/tools/SystemTools.h"
 
+#include "platform/FileLock.h"
 #include "platform/practice/Journal.h"
 #include "platform/practice/Layout.h"
 #include "platform/practice/PracticeFileManager.h"
-#include "practice/process/FileLock.h"
 #include "practice/tools/ToolFunctions.h"
 
 #include <optional>

@@ -19,18 +19,36 @@ Status createAnew(FileManager& files, const MacPath& file, ByteView data) {
     return files.create(file, data);
 }
 
-} // namespace
-
-Status writeAtomically(FileManager& files, const MacPath& file, ByteView data) {
+/// The flushed content beside the file, put in its place by `finish`.
+template<typename Finish>
+Status throughTemporary(FileManager& files, const MacPath& file, ByteView data, Finish&& finish) {
     const MacPath fresh = file.parent() / (file.name() + ".new");
     if (Status created = createAnew(files, fresh, data); !created)
         return created;
     Status done = files.flush(fresh);
     if (done)
-        done = files.replace(file, fresh);
+        done = finish(fresh);
     if (!done)
         ignoreFailure(files.remove(fresh));
     return done;
+}
+
+} // namespace
+
+Status writeAtomically(FileManager& files, const MacPath& file, ByteView data) {
+    return throughTemporary(files, file, data,
+                            [&](const MacPath& fresh) { return files.replace(file, fresh); });
+}
+
+Status createAtomically(FileManager& files, const MacPath& file, ByteView data) {
+    const Status created =
+        throughTemporary(files, file, data, [&](const MacPath& fresh) { return files.move(fresh, file); });
+    if (!created)
+        return created;
+    Status flushed = files.flush(file.parent());
+    if (!flushed)
+        ignoreFailure(files.remove(file));
+    return flushed;
 }
 
 } // namespace tavrik

@@ -11,4 +11,8 @@ namespace tavrik {
 /// take turns.
 Status writeAtomically(FileManager& files, const MacPath& file, ByteView data);
 
+/// The same for a file that must not be there yet: complete and flushed with its folder, or absent. Fails when
+/// anything is there.
+Status createAtomically(FileManager& files, const MacPath& file, ByteView data);
+
 } // namespace tavrik

@@ -29,6 +29,10 @@ bool isWrapperPath(const MacPath& path) {
     return path.string().find("/Applications/Tavrik/") != std::string::npos;
 }
 
+bool isPendingIconPath(const MacPath& path) {
+    return path.string().find("/PendingChanges/Icons/") != std::string::npos;
+}
+
 MacPath launchpadDatabasePath(std::string_view temporaryFolder) {
     const std::vector<std::string> parts = components(temporaryFolder);
     if (parts.size() < 5)

@@ -29,6 +29,13 @@ void assertOffMainThread(const char* what) {
     std::abort();
 }
 
+void assertOnMainThread(const char* what) {
+    if (isMainThread() || mainThread.load() == std::thread::id())
+        return;
+    std::fprintf(stderr, "%s must run on the main thread\n", what);
+    std::abort();
+}
+
 MainThreadMayBlock::MainThreadMayBlock() {
     ++permissionsToBlock;
 }

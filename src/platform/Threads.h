@@ -12,6 +12,10 @@ bool isMainThread();
 /// or opens the Launchpad database, and would freeze the window.
 void assertOffMainThread(const char* what);
 
+/// Ends the process, in every build, when the calling thread is not the main one: `what` belongs to the
+/// interface. Passes while no thread is named the main one.
+void assertOnMainThread(const char* what);
+
 /// Lets the main thread block for as long as it lives: start-up maintenance, which runs before there is a
 /// window to freeze.
 class MainThreadMayBlock {

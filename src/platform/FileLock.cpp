@@ -1,4 +1,4 @@
-#include "practice/process/FileLock.h"
+#include "platform/FileLock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <utility>
 
-namespace tavrik::practice {
+namespace tavrik {
 
 namespace {
 
@@ -51,4 +51,4 @@ bool FileLock::isOf(const HostPath& path) const {
            mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
 }
 
-} // namespace tavrik::practice
+} // namespace tavrik

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace tavrik::practice {
+namespace tavrik {
 
 /// An advisory lock on a file or folder, held by an open descriptor: it goes with the object, and with the
 /// process however that ends. What is locked stays. Two locks exclude each other within one process too.
@@ -35,4 +35,4 @@ private:
     FileDescriptor m_file;
 };
 
-} // namespace tavrik::practice
+} // namespace tavrik

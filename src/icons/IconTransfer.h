@@ -1,0 +1,78 @@
+#pragma once
+
+#include "platform/Path.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tavrik {
+
+class FileManager;
+class IconStore;
+class SettingsManager;
+
+/// Brings the icons of applications from their staged to their applied form: the marked ones deleted, the
+/// pending ones moved into the permanent folder, all numbered from 0. Names change on the way, so before the
+/// first change a record of which file is which (by its number in the file system) goes to
+/// "PendingChanges/transfer.plist", and stays until the staged changes that name the old places are gone. After
+/// a kill at any moment the record tells where each icon stands.
+///
+/// Blocks on the disk. One at a time.
+class IconTransfer {
+public:
+    IconTransfer(FileManager& files, SettingsManager& settings, IconStore& store);
+
+    struct Application {
+        std::string bundleID;
+        std::vector<MacPath>
+            shown;            ///< in the order of its row: the visible permanent icons, then the pending ones
+        std::set<int> marked; ///< numbers of permanent icons to delete
+    };
+
+    /// Where each of `shown` stands; nothing for an icon that is lost.
+    using Places = std::vector<std::optional<MacPath>>;
+
+    /// Writes the record for all applications of a run. False, with a log line, when that fails: nothing may be
+    /// transferred then.
+    [[nodiscard]] bool begin(const std::vector<Application>& applications);
+
+    /// Transfers one application of the record. Each step that fails is logged and skipped: its icon stays
+    /// where it was, and the numbers keep their gaps when a deletion failed.
+    Places run(const std::string& bundleID);
+
+    /// The bundle identifiers of a run that was begun and not ended, by this process or an earlier one.
+    std::vector<std::string> interrupted() const;
+
+    /// Undoes nothing, but leaves the settings right when the staged changes of an interrupted run are given
+    /// up: each application's selected icon is the one that it was before, at its present number.
+    void abandon();
+
+    /// Removes the record; fine when there is none. To be called when the staged changes are gone.
+    void end();
+
+private:
+    struct Icon {
+        MacPath path;
+        std::uint64_t fileID = 0;
+        std::uint64_t size = 0; ///< bytes
+    };
+
+    struct Record {
+        std::vector<Icon> shown;
+        std::vector<Icon> marked;
+        std::optional<Icon> selected; ///< the icon in use before the run
+    };
+
+    std::map<std::string, Record> load() const;
+
+    FileManager& m_files;
+    SettingsManager& m_settings;
+    IconStore& m_store;
+    const MacPath m_recordURL;
+};
+
+} // namespace tavrik

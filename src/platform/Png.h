@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/Bytes.h"
+#include "platform/Result.h"
+
+#include <QImage>
+
+/// PNG at the speed that hundreds of icons ask for. Pure; any thread.
+namespace tavrik::png {
+
+/// A picture as PNG, eight bits a channel, in sRGB; alpha is written only when some pixel is not opaque. Quick
+/// before small: at most some 15 % larger than what a patient writer makes. Equal pixels give equal bytes.
+/// Fails on a null picture and when there is no memory for it.
+Result<Bytes> encode(const QImage& picture);
+
+/// The pixels as ARGB32_Premultiplied in sRGB. Plain pictures of eight bits a channel take a quick path, all
+/// others (interlaced, with a palette, a colour profile, sixteen bits) Qt's; both give the same pixels. Null
+/// when the data is no whole PNG, is damaged, or is larger than what QImageReader's allocation limit allows.
+QImage decode(ByteView data);
+
+} // namespace tavrik::png
