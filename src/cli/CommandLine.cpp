@@ -60,7 +60,7 @@ CommandLine::CommandLine()
           std::tuple{"update", "Give a restyled application another picture", Kind::update}}) {
         WrapperIconCommand& icon = add<WrapperIconCommand>(wrapper, name, description, command, kind);
         command->add_option("BUNDLE-ID", icon.bundleID, "The application's bundle identifier")->required();
-        command->add_option("IMAGE", icon.picture, "PNG, JPEG, TIFF, WebP, GIF, BMP, SVG or ICNS file")
+        command->add_option("IMAGE", icon.picture, "PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS file")
             ->required();
     }
     WrapperRemoveCommand& remove =

@@ -4,6 +4,10 @@
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
 
+#include <libdeflate.h>
+
+#include <memory>
+
 namespace tavrik {
 
 namespace {
@@ -41,6 +45,25 @@ bool refersToOtherFiles(ByteView drawing) {
         }
     }
     return false;
+}
+
+std::optional<Bytes> decompressed(ByteView file) {
+    constexpr std::size_t kSmallestFile = 18;
+    constexpr std::size_t kLargestDrawing = 64u << 20;
+    if (file.size() < kSmallestFile)
+        return std::nullopt;
+    const ByteView trailer = file.last(4); // the size of what is inside
+    const std::size_t size = trailer[0] | std::size_t{trailer[1]} << 8 | std::size_t{trailer[2]} << 16 |
+                             std::size_t{trailer[3]} << 24;
+    if (size == 0 || size > kLargestDrawing)
+        return std::nullopt;
+    Bytes drawing(size);
+    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> decompressor(
+        libdeflate_alloc_decompressor(), &libdeflate_free_decompressor);
+    if (!decompressor || libdeflate_gzip_decompress(decompressor.get(), file.data(), file.size(),
+                                                    drawing.data(), size, nullptr) != LIBDEFLATE_SUCCESS)
+        return std::nullopt;
+    return drawing;
 }
 
 QImage render(ByteView drawing, int side) {

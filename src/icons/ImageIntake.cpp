@@ -16,7 +16,7 @@ namespace tavrik {
 namespace {
 
 constexpr int kDrawingSide = 1024; ///< pixels of a drawing's longer side
-constexpr const char* kWhatWorks = "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG or ICNS picture.";
+constexpr const char* kWhatWorks = "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS picture.";
 
 class Refusal {
 public:
@@ -102,16 +102,29 @@ void allowLargePictures() {
     static_cast<void>(done);
 }
 
-Result<QImage> readPixels(ByteView data, PictureFormat format, const Refusal& refusal) {
-    if (!holdsWholePicture(data, format))
-        return refusal.cutShort();
+/// Windows icons hold one picture in many sizes.
+void goToLargest(QImageReader& reader) {
+    int largest = 0;
+    int width = 0;
+    for (int place = 0; place < reader.imageCount(); ++place) {
+        if (reader.jumpToImage(place) && reader.size().width() > width) {
+            largest = place;
+            width = reader.size().width();
+        }
+    }
+    reader.jumpToImage(largest);
+}
+
+Result<QImage> readPixels(ByteView data, const QByteArray& format, const Refusal& refusal) {
     allowLargePictures();
     QByteArray bytes = borrowed(data);
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, readerName(format));
+    QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
+    if (format == "ico" || format == "cur")
+        goToLargest(reader);
 
     const QSize size = reader.size();
     if (size.isEmpty())
@@ -135,6 +148,13 @@ QImage standardised(const QImage& picture) {
     return result;
 }
 
+Result<QImage> readDrawing(ByteView drawing, const Refusal& refusal) {
+    if (refersToOtherFiles(drawing))
+        return refusal.incompleteDrawing();
+    const QImage picture = render(drawing, kDrawingSide);
+    return picture.isNull() ? Result<QImage>(refusal.unreadableDrawing()) : standardised(picture);
+}
+
 } // namespace
 
 Result<QImage> readPicture(ByteView data, std::string_view name) {
@@ -142,24 +162,26 @@ Result<QImage> readPicture(ByteView data, std::string_view name) {
     if (data.empty())
         return refusal.empty();
     const auto format = pictureFormat(data);
-    if (!format)
-        return refusal.unknown();
-    switch (*format) {
-    case PictureFormat::icns: {
+    if (format == PictureFormat::icns) {
         const QImage picture = icns::largestImage(data);
         return picture.isNull() ? Result<QImage>(refusal.unreadableIcon()) : standardised(picture);
     }
-    case PictureFormat::svg: {
-        if (refersToOtherFiles(data))
-            return refusal.incompleteDrawing();
-        const QImage picture = render(data, kDrawingSide);
-        return picture.isNull() ? Result<QImage>(refusal.unreadableDrawing()) : standardised(picture);
+    if (format == PictureFormat::svg)
+        return readDrawing(data, refusal);
+    if (format == PictureFormat::compressedSvg) {
+        const auto drawing = decompressed(data);
+        if (!drawing)
+            return refusal.unreadableDrawing();
+        return pictureFormat(*drawing) == PictureFormat::svg ? readDrawing(*drawing, refusal)
+                                                             : refusal.unknown();
     }
-    default: {
-        const auto picture = readPixels(data, *format, refusal);
-        return picture ? Result<QImage>(standardised(*picture)) : picture;
-    }
-    }
+    const QByteArray reader = format ? QByteArray(readerName(*format)) : pluginFormat(data);
+    if (reader.isEmpty())
+        return refusal.unknown();
+    if (!(format ? holdsWholePicture(data, *format) : holdsWholePicture(data, reader)))
+        return refusal.cutShort();
+    const auto picture = readPixels(data, reader, refusal);
+    return picture ? Result<QImage>(standardised(*picture)) : picture;
 }
 
 } // namespace tavrik

@@ -14,11 +14,11 @@ namespace tavrik {
 inline constexpr int kLargestPictureSide = 16'384;
 inline constexpr std::size_t kLargestPictureBytes = 512u << 20;
 
-/// Reads a picture that a person hands over: PNG, JPEG, TIFF, WebP, GIF or BMP (the first frame), SVG at full
-/// size, ICNS at its largest representation. The orientation recorded in the file is honoured, colours are
-/// converted to sRGB, transparency is kept. Anything else, and anything damaged, cut short or too large, is an
-/// error in a sentence that says what was wrong and what would work. `name` is what the person called the file.
-/// Pure; any thread.
+/// Reads a picture that a person hands over: SVG at full size, ICNS and ICO at their largest representation,
+/// and of PNG, JPEG, TIFF, WebP, GIF, BMP and whatever else the image plugins read the first frame. The
+/// orientation recorded in the file is honoured, colours are converted to sRGB, transparency is kept. Anything
+/// else, and anything damaged, cut short or too large, is an error in a sentence that says what was wrong and
+/// what would work. `name` is what the person called the file. Pure; any thread.
 Result<QImage> readPicture(ByteView data, std::string_view name);
 
 } // namespace tavrik

@@ -1,5 +1,8 @@
 #include "icons/PictureFormat.h"
 
+#include <QBuffer>
+#include <QImageReader>
+
 #include <algorithm>
 #include <string_view>
 
@@ -121,6 +124,22 @@ bool bmpEnds(ByteView data) {
 
 } // namespace
 
+QByteArray pluginFormat(ByteView data) {
+    // Its beginning could be a cursor's: its end is what tells it.
+    if (textOf(data).ends_with("TRUEVISION-XFILE.\0"sv))
+        return "tga";
+    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(data.data()),
+                                               static_cast<qsizetype>(data.size()));
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    const QByteArray format = QImageReader::imageFormat(&buffer);
+    return format.startsWith("svg") || format == "pdf" ? QByteArray() : format;
+}
+
+bool holdsWholePicture(ByteView data, const QByteArray& pluginFormat) {
+    return pluginFormat != "xbm" || textOf(data).find('}') != std::string_view::npos;
+}
+
 std::optional<PictureFormat> pictureFormat(ByteView data) {
     const std::string_view text = textOf(data);
     if (text.starts_with("\x89PNG\r\n\x1A\n"))
@@ -135,6 +154,8 @@ std::optional<PictureFormat> pictureFormat(ByteView data) {
         return PictureFormat::gif;
     if (text.starts_with("BM") && text.size() >= 26)
         return PictureFormat::bmp;
+    if (text.starts_with("\x1F\x8B"))
+        return PictureFormat::compressedSvg;
     if (text.starts_with("icns"))
         return PictureFormat::icns;
     if (isSvg(text))

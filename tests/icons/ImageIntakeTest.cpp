@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <libdeflate.h>
 
 #include <string>
 
@@ -61,15 +62,65 @@ Bytes drawing(const std::string& attributes,
     return Bytes(text.begin(), text.end());
 }
 
+Bytes compressed(const Bytes& data) {
+    Bytes file(data.size() + 64);
+    libdeflate_compressor* compressor = libdeflate_alloc_compressor(1);
+    file.resize(libdeflate_gzip_compress(compressor, data.data(), data.size(), file.data(), file.size()));
+    libdeflate_free_compressor(compressor);
+    return file;
+}
+
+/// A Windows icon of 16 by 16 black pixels and, behind it, of the quarters at 64 by 64.
+Bytes windowsIcon() {
+    QImage small(16, 16, QImage::Format_ARGB32);
+    small.fill(Qt::black);
+    Bytes icon{0, 0, 1, 0, 2, 0};
+    Bytes content;
+    for (const QImage& picture : {small, quarters(64, 64)}) {
+        const Bytes png = encoded(picture, "png");
+        const auto side = static_cast<std::uint8_t>(picture.width());
+        const Bytes entry{side, side, 0, 0, 1, 0, 32, 0};
+        icon.insert(icon.end(), entry.begin(), entry.end());
+        for (const std::size_t number : {png.size(), 6 + 2 * 16 + content.size()}) {
+            for (const int shift : {0, 8, 16, 24})
+                icon.push_back(static_cast<std::uint8_t>(number >> shift));
+        }
+        content.insert(content.end(), png.begin(), png.end());
+    }
+    icon.insert(icon.end(), content.begin(), content.end());
+    return icon;
+}
+
+/// The quarters as TGA: a header, then blue, green, red and alpha, the top row first, and the footer.
+Bytes tga() {
+    const QImage picture = quarters();
+    Bytes file{0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 48, 0, 32, 0, 32, 0x28};
+    for (int y = 0; y < picture.height(); ++y)
+        file.insert(file.end(), picture.constScanLine(y), picture.constScanLine(y) + 4 * picture.width());
+    const std::string footer = std::string(8, '\0') + "TRUEVISION-XFILE." + std::string(1, '\0');
+    file.insert(file.end(), footer.begin(), footer.end());
+    return file;
+}
+
 std::map<std::string, Bytes> samples() {
-    return {{"png", encoded(quarters(), "png")},        {"jpeg", encoded(quarters(), "jpg")},
-            {"tiff", encoded(quarters(), "tiff")},      {"webp", encoded(quarters(), "webp")},
-            {"bmp", encoded(quarters(), "bmp")},        {"gif", animation()},
-            {"svg", drawing("width='30' height='20'")}, {"icns", icns::encode(quarters(64, 64))}};
+    return {{"png", encoded(quarters(), "png")},
+            {"jpeg", encoded(quarters(), "jpg")},
+            {"tiff", encoded(quarters(), "tiff")},
+            {"webp", encoded(quarters(), "webp")},
+            {"bmp", encoded(quarters(), "bmp")},
+            {"gif", animation()},
+            {"svg", drawing("width='30' height='20'")},
+            {"icns", icns::encode(quarters(64, 64))},
+            {"svgz", compressed(drawing("width='30' height='20'"))},
+            {"ico", windowsIcon()},
+            {"tga", tga()},
+            {"ppm", encoded(quarters(), "ppm")},
+            {"xpm", encoded(quarters(), "xpm")}};
 }
 
 TEST(ImageIntake, ReadsEveryKindWhateverTheFileIsCalled) {
-    const std::map<std::string, QSize> sizes{{"gif", {16, 8}}, {"svg", {1024, 683}}, {"icns", {64, 64}}};
+    const std::map<std::string, QSize> sizes{
+        {"gif", {16, 8}}, {"svg", {1024, 683}}, {"icns", {64, 64}}, {"svgz", {1024, 683}}, {"ico", {64, 64}}};
     for (const auto& [kind, data] : samples()) {
         const auto picture = readPicture(data, "picture.dat");
         ASSERT_TRUE(picture) << kind << picture.error().description;
