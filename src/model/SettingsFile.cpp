@@ -34,7 +34,7 @@ std::optional<plist::Dictionary> SettingsFile::read() const {
     return data ? settingsIn(*data) : std::nullopt;
 }
 
-plist::Dictionary SettingsFile::load() {
+plist::Dictionary SettingsFile::load(Repair repair) {
     m_mainUnreadable.reset();
     m_backupIsTheGoodOne = false;
     const auto data = m_files.read(m_main);
@@ -49,6 +49,8 @@ plist::Dictionary SettingsFile::load() {
     const auto backup = m_files.read(m_backup);
     if (backup) {
         if (auto settings = settingsIn(*backup)) {
+            if (repair == Repair::no)
+                return std::move(*settings);
             if (!m_mainUnreadable)
                 m_backupIsTheGoodOne = !writeAtomically(m_files, m_main, *backup);
             log("Restored settings from backup");

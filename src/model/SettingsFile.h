@@ -27,7 +27,10 @@ public:
     ///
     /// A main file that is there and cannot be read (the disk fails, no descriptors are left) may well be good:
     /// it is left alone, and saving is refused until it loads again.
-    plist::Dictionary load();
+    ///
+    /// Without repair the backup stays where it is, and its content is the answer all the same.
+    enum class Repair { no, yes };
+    plist::Dictionary load(Repair repair = Repair::yes);
 
     enum class Saved {
         no,        ///< the main file holds what it held before

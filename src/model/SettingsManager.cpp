@@ -25,11 +25,6 @@ constexpr const char* kSwapRecords = "SwapRecords";
 
 constexpr std::int64_t kDefaultRetentionCount = 30;
 
-MacPath supportFolder(const Volume& volume) {
-    const std::string identifier = volume.bundleIdentifier();
-    return volume.applicationSupport() / (identifier.empty() ? kFallbackBundleIdentifier : identifier);
-}
-
 std::string folderKey(RowID folderID) {
     return std::to_string(static_cast<std::int64_t>(folderID));
 }
@@ -44,6 +39,11 @@ std::optional<RowID> folderOf(std::string_view key) {
 }
 
 } // namespace
+
+MacPath supportFolder(const Volume& volume) {
+    const std::string identifier = volume.bundleIdentifier();
+    return volume.applicationSupport() / (identifier.empty() ? kFallbackBundleIdentifier : identifier);
+}
 
 SettingsManager::SettingsManager(Mac& mac)
     : m_clock(mac.clock),
@@ -241,7 +241,7 @@ void SettingsManager::saveHiddenFlagApp(const std::string& bundleID, std::int64_
 }
 
 void SettingsManager::saveHiddenFlagApps(const std::vector<std::pair<std::string, HiddenFlagApp>>& apps) {
-    if (apps.empty())
+    if (apps.empty() || m_store.isReadOnly())
         return;
     m_store.changeEntries(kHiddenFlagApps, [&](plist::Dictionary& all) {
         for (const auto& [bundleID, app] : apps) {

@@ -15,10 +15,14 @@
 namespace tavrik {
 
 class Clock;
+class Volume;
 struct Mac;
 
 /// The identifier that names the support folder when the program runs without a bundle.
 inline constexpr std::string_view kFallbackBundleIdentifier = "com.tavrik.Tavrik";
+
+/// The folder below the user's Application Support that holds everything the program keeps.
+MacPath supportFolder(const Volume& volume);
 
 /// Owner of "AppSettings.plist" and of every key in it; the other modules read and write through its typed
 /// operations only.
@@ -33,6 +37,10 @@ inline constexpr std::string_view kFallbackBundleIdentifier = "com.tavrik.Tavrik
 class SettingsManager {
 public:
     explicit SettingsManager(Mac& mac);
+
+    /// For a program that may look but not write, because another one holds the support folder's lock: from now
+    /// on setters change nothing and say nothing, and loading repairs nothing.
+    void setReadOnly() { m_store.setReadOnly(); }
 
     const MacPath& appSupportURL() const { return m_appSupportURL; }
 

@@ -19,10 +19,12 @@ void SettingsStore::dropCache() {
 
 plist::Dictionary SettingsStore::load() {
     const std::lock_guard turn(m_writeTurn);
-    return m_file.load();
+    return m_file.load(m_isReadOnly ? SettingsFile::Repair::no : SettingsFile::Repair::yes);
 }
 
 SettingsStore::Saved SettingsStore::save(const plist::Dictionary& settings) {
+    if (m_isReadOnly)
+        return Saved::no;
     auto saved = Saved::no;
     {
         const std::lock_guard turn(m_writeTurn);
@@ -33,6 +35,8 @@ SettingsStore::Saved SettingsStore::save(const plist::Dictionary& settings) {
 }
 
 SettingsStore::Saved SettingsStore::change(const Edit& edit) {
+    if (m_isReadOnly)
+        return Saved::no;
     auto saved = Saved::no;
     {
         const std::lock_guard turn(m_writeTurn);

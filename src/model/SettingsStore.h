@@ -2,6 +2,7 @@
 
 #include "model/SettingsFile.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -18,6 +19,12 @@ public:
     using Saved = SettingsFile::Saved;
 
     SettingsStore(FileManager& files, const MacPath& folder) : m_file(files, folder) {}
+
+    /// From now on every change answers `no` and leaves file and cache as they are, and loading repairs
+    /// nothing.
+    void setReadOnly() { m_isReadOnly = true; }
+
+    bool isReadOnly() const { return m_isReadOnly; }
 
     /// From memory; the first call after a change reads the file. Never null.
     Snapshot snapshot();
@@ -41,6 +48,8 @@ private:
     /// taken while the cache's lock is held, never the other way round.
     std::mutex m_writeTurn;
     SettingsFile m_file;
+
+    std::atomic<bool> m_isReadOnly = false;
 
     std::mutex m_cacheLock;
     Snapshot m_cache; ///< null when not loaded

@@ -31,7 +31,7 @@ public:
 private:
     SupportFolderLock(FileLock lock, HostPath file);
 
-    std::optional<FileLock> m_lock;
+    std::optional<FileLock> m_lock; ///< gone when it was moved
     HostPath m_file;
 };
 

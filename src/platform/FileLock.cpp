@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <utility>
@@ -49,6 +50,18 @@ bool FileLock::isOf(const HostPath& path) const {
     struct stat there{};
     return ::fstat(m_file.number(), &mine) == 0 && ::lstat(path.string().c_str(), &there) == 0 &&
            mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
+}
+
+std::error_code FileLock::setContent(ByteView content) {
+    if (::ftruncate(m_file.number(), 0) != 0 || ::lseek(m_file.number(), 0, SEEK_SET) != 0)
+        return lastError();
+    return m_file.writeAll(content);
+}
+
+std::error_code FileLock::removeFile(const HostPath& path) const {
+    if (!isOf(path))
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    return ::unlink(path.string().c_str()) == 0 ? std::error_code() : lastError();
 }
 
 } // namespace tavrik

@@ -27,6 +27,13 @@ public:
     /// Whether what is locked still stands at this path. Whoever held the lock before may have moved it.
     bool isOf(const HostPath& path) const;
 
+    /// Replaces the content of the locked file; not of one that stood and was only looked up.
+    [[nodiscard]] std::error_code setContent(ByteView content);
+
+    /// Removes the file while it is still locked, if it stands at this path: whoever gets the lock next learns
+    /// of it by `isOf`.
+    [[nodiscard]] std::error_code removeFile(const HostPath& path) const;
+
 private:
     static std::optional<FileLock> take(FileDescriptor opened, Wait wait);
 

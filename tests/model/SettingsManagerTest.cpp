@@ -1,5 +1,6 @@
 #include "model/SettingsManager.h"
 
+#include "support/FileTree.h"
 #include "support/LogRecorder.h"
 #include "support/SmallMac.h"
 
@@ -218,6 +219,27 @@ TEST_F(SettingsManagerTest, SaysThatASwapRecordIsOnDiskOnlyWhenItIs) {
     }
     small.files.failNothing();
     EXPECT_TRUE(settings.saveSwapRecord("com.example.atlas", record));
+}
+
+TEST_F(SettingsManagerTest, ChangesNothingWhileItMayOnlyLook) {
+    settings.setBackupRetentionCount(7);
+    settings.setBackupRetentionCount(8);
+    writeMain("cut");
+    settings.dropCache();
+    const test::FileTree before = test::treeOf(small.files, settings.appSupportURL());
+
+    settings.setReadOnly();
+    EXPECT_EQ(settings.getBackupRetentionCount(), 7) << "the backup's content serves";
+    EXPECT_FALSE(settings.loadSettings().empty());
+    log.clear();
+    settings.saveHiddenFlagApp("com.apple.a", 128, RowID{1}, std::nullopt, true);
+    settings.saveSettings({{"BackupRetentionCount", 9}});
+    settings.removeEntry("x", "BackupRetentionCount");
+    EXPECT_FALSE(settings.saveSwapRecord("com.apple.a", {}));
+    EXPECT_EQ(settings.getBackupRetentionCount(), 7);
+    EXPECT_THAT(log.lines(), testing::IsEmpty());
+    EXPECT_EQ(test::differences(before, test::treeOf(small.files, settings.appSupportURL())),
+              std::vector<std::string>());
 }
 
 TEST(SettingsManager, WorksAsFarAsItGoesWhenItsFolderCannotBeMade) {
