@@ -1,0 +1,1 @@
+#include "fonts/FontReplacer.h"
