@@ -1,10 +1,15 @@
 #pragma once
 
+#include "icons/IconMoves.h"
+#include "platform/Bytes.h"
 #include "platform/Path.h"
+#include "platform/Result.h"
 
 #include <QImage>
 
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -59,21 +64,39 @@ public:
     void deletePendingIcon(const MacPath& path);
 
     /// Moves a pending icon with its thumbnails into the permanent folder, under its own number, or the next
-    /// free one when that is taken. Where it stands then; nothing when it could not be moved and is where it
-    /// was.
+    /// one above all that are there when its own is taken or below them, so that it comes last. Where it stands
+    /// then; nothing when it could not be moved and is where it was.
     std::optional<MacPath> transferPendingIcon(const MacPath& path, const std::string& bundleID);
 
+    /// Removes an application's pending folder with all that is in it, or all such folders. The next save makes
+    /// what is missing.
     void cleanUpPendingIcons(const std::string& bundleID);
     void cleanUpAllPendingIcons();
+
+    /// Removes the application's pending folder when no icon is left in it. True when it did.
+    bool removePendingFolderIfEmpty(const std::string& bundleID);
+
+    /// Removes from the pending folders of all applications every icon that is not named, with its thumbnails,
+    /// what a killed write left, links, and the folders that are empty then. Other files stay.
+    void removeUnnamedPendingIcons(const std::set<MacPath>& named);
 
     /// Whether the path is exactly that of an icon of this application in one of the two folders.
     bool ownsPath(const MacPath& path, const std::string& bundleID) const;
 
 private:
+    Result<MacPath> safeFolder(const MacPath& base, const std::string& bundleID) const;
+    Status checkFolders(const MacPath& folder) const;
+    Result<std::vector<NumberedIcon>> icons(const MacPath& base, const std::string& bundleID) const;
+    Status create(const MacPath& icon, ByteView data);
+    bool removePendingFolder(const std::string& bundleID);
+    std::vector<std::string> pendingFolders() const;
+
     FileManager& m_files;
     IconCache& m_cache;
+    const MacPath m_appSupportURL;
     const MacPath m_iconCacheURL;
     const MacPath m_pendingIconsBaseURL;
+    std::mutex m_pendingLock; ///< held while the pending folders change
 };
 
 } // namespace tavrik

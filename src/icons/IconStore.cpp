@@ -1,0 +1,308 @@
+#include "icons/IconStore.h"
+
+#include "icons/IconCache.h"
+#include "icons/IconFiles.h"
+#include "icons/IconSweep.h"
+#include "model/SettingsManager.h"
+#include "platform/AtomicFile.h"
+#include "platform/FileManager.h"
+#include "platform/Log.h"
+#include "platform/PathComponent.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace tavrik {
+
+namespace {
+
+Result<Bytes> encodePng(const QImage& image) {
+    QByteArray data;
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "png");
+    writer.setQuality(88);
+    if (image.isNull() || !writer.write(image))
+        return Error{writer.errorString().toStdString()};
+    return Bytes(data.begin(), data.end());
+}
+
+std::vector<MacPath> pathsOf(const std::vector<NumberedIcon>& icons) {
+    std::vector<MacPath> paths;
+    for (const NumberedIcon& icon : icons)
+        paths.push_back(icon.path);
+    return paths;
+}
+
+int highestNumber(const std::vector<NumberedIcon>& icons) {
+    return icons.empty() ? -1 : icons.back().number;
+}
+
+} // namespace
+
+IconStore::IconStore(FileManager& files, const SettingsManager& settings, IconCache& cache)
+    : m_files(files),
+      m_cache(cache),
+      m_appSupportURL(settings.appSupportURL()),
+      m_iconCacheURL(settings.iconCacheURL()),
+      m_pendingIconsBaseURL(m_appSupportURL / "PendingChanges/Icons") {}
+
+Status IconStore::checkFolders(const MacPath& folder) const {
+    for (MacPath path = folder; path.isInside(m_appSupportURL); path = path.parent()) {
+        const auto present = m_files.attributes(path, Links::dontFollow);
+        if (!present && present.error().code != ENOENT)
+            return present.error();
+        if (present && present->type != FileType::folder)
+            return Error{path.string() + " is no plain folder", ENOTDIR};
+    }
+    return Done{};
+}
+
+Result<MacPath> IconStore::safeFolder(const MacPath& base, const std::string& bundleID) const {
+    if (!isSafePathComponent(bundleID))
+        return Error{"\"" + bundleID + "\" cannot name a folder", EINVAL};
+    MacPath folder = base / bundleID;
+    if (const Status safe = checkFolders(folder); !safe)
+        return safe.error();
+    return folder;
+}
+
+Result<std::vector<NumberedIcon>> IconStore::icons(const MacPath& base, const std::string& bundleID) const {
+    const auto folder = safeFolder(base, bundleID);
+    if (!folder)
+        return folder.error();
+    return numberedIcons(m_files, *folder);
+}
+
+std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std::string& bundleID) {
+    const auto failed = [](const Error& error) {
+        log("Failed to save pending icon: " + error.description);
+        return std::nullopt;
+    };
+    const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
+    if (!folder)
+        return failed(folder.error());
+    const auto data = encodePng(image);
+    if (!data) {
+        log("Failed to convert icon to PNG");
+        return std::nullopt;
+    }
+
+    const std::lock_guard lock(m_pendingLock);
+    if (const Status created = m_files.createFolder(*folder); !created)
+        return failed(created.error());
+
+    const int index = nextAvailableIndex(bundleID);
+    const MacPath path = *folder / iconFileName(index);
+    if (const Status created = create(path, *data); !created)
+        return failed(created.error());
+    m_cache.insert(path, image);
+    log("💾 Saved pending icon to: " + path.string() + " with index " + std::to_string(index));
+    return path;
+}
+
+Status IconStore::create(const MacPath& icon, ByteView data) {
+    if (!iconIndex(icon.name()))
+        return Error{icon.string() + " is no name of an icon", EINVAL};
+    if (Status cleared = clearThumbnails(m_files, icon); !cleared)
+        return cleared;
+    return createAtomically(m_files, icon, data);
+}
+
+int IconStore::nextAvailableIndex(const std::string& bundleID) const {
+    // The pending ones are read first: an icon that is transferred meanwhile is then seen twice, not missed.
+    const auto pending = icons(m_pendingIconsBaseURL, bundleID);
+    const auto permanent = icons(m_iconCacheURL, bundleID);
+    if (!permanent || !pending)
+        log("Warning: Failed to read icon directory for " + bundleID);
+
+    int highest = -1;
+    const auto count = [&highest](const auto& found, const std::string& kind) {
+        if (!found)
+            return;
+        for (const NumberedIcon& icon : *found)
+            log("  Found " + kind + " icon_" + std::to_string(icon.number));
+        highest = std::max(highest, highestNumber(*found));
+    };
+    count(permanent, "permanent");
+    count(pending, "pending");
+    log("📊 Next available index for " + bundleID + ": " + std::to_string(highest + 1) +
+        " (highest found: " + std::to_string(highest) + ")");
+    return highest + 1;
+}
+
+std::vector<MacPath> IconStore::listIcons(const std::string& bundleID) const {
+    const auto found = icons(m_iconCacheURL, bundleID);
+    if (found)
+        return pathsOf(*found);
+    log("Warning: Failed to read icon directory for " + bundleID);
+    return {};
+}
+
+std::vector<MacPath> IconStore::listPendingIcons(const std::string& bundleID) const {
+    const auto found = icons(m_pendingIconsBaseURL, bundleID);
+    return found ? pathsOf(*found) : std::vector<MacPath>();
+}
+
+void IconStore::deleteIconAndReindex(const std::string& bundleID, int index) {
+    const std::vector<MacPath> found = listIcons(bundleID);
+    if (index < 0 || static_cast<std::size_t>(index) >= found.size())
+        return;
+    const MacPath& icon = found[static_cast<std::size_t>(index)];
+    if (const auto removed = removeIcon(m_files, m_cache, icon); !removed) {
+        log("Failed to delete icon: " + removed.error().description);
+        return;
+    }
+    renumber(bundleID);
+}
+
+std::vector<MacPath> IconStore::renumber(const std::string& bundleID) {
+    const auto folder = safeFolder(m_iconCacheURL, bundleID);
+    const Status done = folder ? renumberIcons(m_files, m_cache, *folder) : Status(folder.error());
+    if (!done)
+        log("Failed to renumber the icons of " + bundleID + ": " + done.error().description);
+    return listIcons(bundleID);
+}
+
+bool IconStore::deletePermanentIcon(const std::string& bundleID, int index) {
+    const auto folder = safeFolder(m_iconCacheURL, bundleID);
+    if (!folder || folder->name() != bundleID) {
+        log("  ❌ SAFETY: Refusing to delete - invalid directory structure");
+        return false;
+    }
+    if (index < 0)
+        return true;
+    const std::string name = iconFileName(index);
+    const auto removed = removeIcon(m_files, m_cache, *folder / name);
+    if (!removed) {
+        log("  Failed to delete " + name + ": " + removed.error().description);
+        return false;
+    }
+    if (*removed)
+        log("  Deleted: " + name);
+    return true;
+}
+
+void IconStore::deletePendingIcon(const MacPath& path) {
+    const std::string bundleID = path.parent().name();
+    const std::lock_guard lock(m_pendingLock);
+    const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
+    if (!folder || path != *folder / path.name() || !iconIndex(path.name())) {
+        log("⚠️ Refusing to delete what is not a pending icon: " + path.string());
+        return;
+    }
+    if (const auto removed = removeIcon(m_files, m_cache, path); !removed) {
+        log("⚠️ Failed to delete pending icon: " + removed.error().description);
+        return;
+    }
+    log("🗑️ Deleted pending icon and cleared cache: " + path.string());
+}
+
+std::optional<MacPath> IconStore::transferPendingIcon(const MacPath& path, const std::string& bundleID) {
+    const auto failed = [&path](const std::string& why) {
+        log("⚠️ WARNING: Failed to transfer pending icon at " + path.string());
+        log("  " + why);
+        return std::nullopt;
+    };
+    const std::lock_guard lock(m_pendingLock);
+    const auto source = safeFolder(m_pendingIconsBaseURL, bundleID);
+    const auto target = safeFolder(m_iconCacheURL, bundleID);
+    if (!source || !target)
+        return failed(!source ? source.error().description : target.error().description);
+    const auto number = iconIndex(path.name());
+    if (!number || path != *source / path.name())
+        return failed("It is no pending icon of " + bundleID);
+    if (const Status created = m_files.createFolder(*target); !created)
+        return failed(created.error().description);
+    const auto present = numberedIcons(m_files, *target);
+    if (!present)
+        return failed(present.error().description);
+
+    MacPath place = *target / iconFileName(std::max(*number, highestNumber(*present) + 1));
+    if (const Status moved = moveIcon(m_files, m_cache, path, place); !moved)
+        return failed(moved.error().description);
+    return place;
+}
+
+bool IconStore::removePendingFolder(const std::string& bundleID) {
+    const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
+    if (folder && removeIconFolder(m_files, m_cache, *folder))
+        return true;
+    log("⚠️ Failed to cleanup pending icons for " + bundleID);
+    return false;
+}
+
+void IconStore::cleanUpPendingIcons(const std::string& bundleID) {
+    const std::lock_guard lock(m_pendingLock);
+    if (removePendingFolder(bundleID))
+        log("🧹 Cleaned up pending icons for: " + bundleID);
+}
+
+void IconStore::cleanUpAllPendingIcons() {
+    const std::lock_guard lock(m_pendingLock);
+    bool cleaned = true;
+    for (const std::string& bundleID : pendingFolders())
+        cleaned = removePendingFolder(bundleID) && cleaned;
+    const Status safe = checkFolders(m_pendingIconsBaseURL);
+    const Status removed = safe ? removeIconFolder(m_files, m_cache, m_pendingIconsBaseURL) : safe;
+    if (removed)
+        log("🧹 Cleaned up all pending icons");
+    else if (cleaned)
+        log("⚠️ Failed to cleanup pending icons for all applications");
+}
+
+std::vector<std::string> IconStore::pendingFolders() const {
+    std::vector<std::string> folders;
+    const auto names = checkFolders(m_pendingIconsBaseURL) ? m_files.list(m_pendingIconsBaseURL)
+                                                           : Result<std::vector<std::string>>(folders);
+    if (!names)
+        return folders;
+    for (const std::string& name : *names) {
+        const auto present = m_files.attributes(m_pendingIconsBaseURL / name, Links::dontFollow);
+        if (present && present->type == FileType::folder && isSafePathComponent(name))
+            folders.push_back(name);
+    }
+    return folders;
+}
+
+bool IconStore::removePendingFolderIfEmpty(const std::string& bundleID) {
+    const std::lock_guard lock(m_pendingLock);
+    const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
+    if (!folder || !m_files.exists(*folder))
+        return false;
+    const auto left = numberedIcons(m_files, *folder);
+    if (!left || !left->empty())
+        return false;
+    sweepIconFolder(m_files, m_cache, *folder, {});
+    const auto present = m_files.attributes(*folder, Links::dontFollow);
+    return !present && present.error().code == ENOENT;
+}
+
+void IconStore::removeUnnamedPendingIcons(const std::set<MacPath>& named) {
+    const std::lock_guard lock(m_pendingLock);
+    if (!checkFolders(m_pendingIconsBaseURL))
+        return;
+    const auto names = m_files.list(m_pendingIconsBaseURL);
+    if (!names)
+        return;
+    for (const std::string& name : *names) {
+        const MacPath path = m_pendingIconsBaseURL / name;
+        const auto present = m_files.attributes(path, Links::dontFollow);
+        if (present && present->type == FileType::symbolicLink)
+            ignoreFailure(m_files.remove(path));
+        else if (present && present->type == FileType::folder && isSafePathComponent(name))
+            sweepIconFolder(m_files, m_cache, path, named);
+    }
+}
+
+bool IconStore::ownsPath(const MacPath& path, const std::string& bundleID) const {
+    if (!isSafePathComponent(bundleID) || !iconIndex(path.name()))
+        return false;
+    return path == m_iconCacheURL / bundleID / path.name() ||
+           path == m_pendingIconsBaseURL / bundleID / path.name();
+}
+
+} // namespace tavrik
