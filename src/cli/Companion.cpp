@@ -1,7 +1,10 @@
 #include "cli/Companion.h"
 
 #include "app/PracticeHost.h"
+#include "platform/FileManager.h"
+#include "platform/Mac.h"
 
+#include <cerrno>
 #include <cstdio>
 
 namespace tavrik {
@@ -18,15 +21,32 @@ void printLine(std::FILE* stream, std::string_view line) {
 
 Companion::Companion(HostPath practiceRoot) : m_practiceRoot(std::move(practiceRoot)) {}
 
-bool Companion::open() {
+ExitCode Companion::open(Access access) {
     auto host = openPracticeMac(m_practiceRoot);
-    if (!host) {
-        fail(host.error().description);
-        return false;
-    }
+    if (!host)
+        return fail(host.error().description);
     m_host = std::move(*host);
-    m_managers.emplace(m_host->mac());
-    return true;
+    if (access != Access::looking) {
+        if (const ExitCode locked = takeLock(access); locked != ExitCode::done)
+            return locked;
+    }
+    onMain([this] { m_managers.emplace(m_host->mac()); });
+    if (!m_lock)
+        m_managers->settings.setReadOnly();
+    return ExitCode::done;
+}
+
+ExitCode Companion::takeLock(Access access) {
+    Mac& mac = m_host->mac();
+    const MacPath folder = supportFolder(mac.volume);
+    ignoreFailure(mac.files.createFolder(folder)); // the lock says it better
+    auto lock = SupportFolderLock::take(mac, folder, kName);
+    if (lock)
+        m_lock.emplace(std::move(*lock));
+    else if (access == Access::writing)
+        return lock.error().code == EWOULDBLOCK ? refuse(lock.error().description)
+                                                : fail(lock.error().description);
+    return ExitCode::done;
 }
 
 void Companion::say(std::string_view line) const {

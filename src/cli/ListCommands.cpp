@@ -7,8 +7,8 @@
 namespace tavrik {
 
 ExitCode AppsCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::reading); opened != ExitCode::done)
+        return opened;
     Managers& managers = companion.managers();
     const std::vector<ApplicationInfo> apps = managers.apps.loadApplications();
     if (apps.empty())
@@ -36,8 +36,8 @@ ExitCode AppsCommand::run(Companion& companion) {
 }
 
 ExitCode DockCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::reading); opened != ExitCode::done)
+        return opened;
     if (!companion.managers().dock.readDockPlist())
         return companion.fail("The Dock's preferences cannot be read.");
     const std::vector<DockApp> apps = companion.managers().dock.dockApps();
@@ -53,8 +53,8 @@ ExitCode DockCommand::run(Companion& companion) {
 }
 
 ExitCode WrapperListCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::reading); opened != ExitCode::done)
+        return opened;
     const auto mappings = companion.managers().settings.getAllMappings();
     if (json) {
         companion.say(jsonText(toJson(mappings)));

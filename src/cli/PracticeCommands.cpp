@@ -3,16 +3,20 @@
 #include "app/PracticeHost.h"
 #include "cli/Companion.h"
 #include "cli/HostFile.h"
+#include "platform/practice/PracticeMac.h"
+#include "practice/furnish/Furnish.h"
 #include "practice/picture/Picture.h"
 
 #include <QBuffer>
 #include <QImageWriter>
 
+#include <cerrno>
+
 namespace tavrik {
 
 ExitCode PictureCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::looking); opened != ExitCode::done)
+        return opened;
     const practice::PictureOptions options{
         .scale = static_cast<double>(scale),
         .appearance = dark ? practice::Appearance::dark : practice::Appearance::light,
@@ -35,13 +39,19 @@ ExitCode PictureCommand::run(Companion& companion) {
 }
 
 ExitCode PracticeWhereCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::looking); opened != ExitCode::done)
+        return opened;
     companion.say(companion.practiceRoot().string());
     return ExitCode::done;
 }
 
 ExitCode PracticeResetCommand::run(Companion& companion) {
+    if (practice::isPracticeMac(companion.practiceRoot())) {
+        practice::PracticeMac old(companion.practiceRoot());
+        const auto lock = SupportFolderLock::take(old.mac(), supportFolder(old.mac().volume), Companion::kName);
+        if (!lock && lock.error().code == EWOULDBLOCK)
+            return companion.refuse(lock.error().description);
+    }
     if (Status reset = resetPracticeMac(companion.practiceRoot()); !reset)
         return companion.fail(reset.error().description);
     companion.say("A new practice Mac stands in " + companion.practiceRoot().string() + ".");

@@ -30,8 +30,8 @@ ExitCode WrapperIconCommand::run(Companion& companion) {
         return companion.fail(file.string() +
                               " could not be brought to icon size; there may be too little memory.");
 
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::writing); opened != ExitCode::done)
+        return opened;
     Managers& managers = companion.managers();
     const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
     if (!app)
@@ -61,8 +61,8 @@ ExitCode WrapperIconCommand::run(Companion& companion) {
 }
 
 ExitCode WrapperRemoveCommand::run(Companion& companion) {
-    if (!companion.open())
-        return ExitCode::failed;
+    if (const ExitCode opened = companion.open(Access::writing); opened != ExitCode::done)
+        return opened;
     Managers& managers = companion.managers();
     const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
     if (!app)

@@ -20,7 +20,8 @@ struct Mac;
 class SupportFolderLock {
 public:
     /// Never waits. `holder` is what a person would call this program: "tavrikctl". The error is a sentence fit
-    /// to be shown: who holds it, or why it cannot be taken (the folder is missing, read-only, a link).
+    /// to be shown: who holds it (its code is EWOULDBLOCK then), or why it cannot be taken (the folder is
+    /// missing, read-only, a link).
     static Result<SupportFolderLock> take(const Mac& mac, const MacPath& supportFolder,
                                           std::string_view holder);
 

@@ -13,8 +13,8 @@ namespace MainQueue {
 /// null. The context must be alive during the call itself. Any thread.
 void async(QObject* context, std::function<void()> work);
 
-/// Runs the work on the main thread and waits for it; on the main thread itself it runs at once. For alerts
-/// only.
+/// Runs the work on the main thread and waits for it; on the main thread itself it runs at once. For alerts,
+/// and for programs whose work runs beside an idle main thread.
 void sync(std::function<void()> work);
 
 } // namespace MainQueue

@@ -4,6 +4,7 @@
 #include "platform/practice/Layout.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -53,6 +54,22 @@ HostPath RunningCompanion::file(const std::string& name, ByteView content) const
     const auto created = files.create(MacPath("/" + name), content);
     EXPECT_TRUE(created) << created.error().description;
     return m_folder.path() / name;
+}
+
+HostPath RunningCompanion::picture(const std::string& name, const QImage& image) const {
+    const HostPath file = m_folder.path() / name;
+    EXPECT_TRUE(image.save(QString::fromStdString(file.string()))) << file.string();
+    return file;
+}
+
+std::string RunningCompanion::plainApp() const {
+    for (const auto& entry : json({"apps", "--json"})) {
+        const QJsonObject app = entry.toObject();
+        if (!app[QLatin1String("isIOSApp")].toBool() && !app[QLatin1String("isUnsupportedApp")].toBool())
+            return app[QLatin1String("bundleID")].toString().toStdString();
+    }
+    ADD_FAILURE() << "no application can be restyled";
+    return {};
 }
 
 FileTree RunningCompanion::valuables() const {

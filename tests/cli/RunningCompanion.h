@@ -6,6 +6,7 @@
 #include "support/FileTree.h"
 #include "support/TemporaryFolder.h"
 
+#include <QImage>
 #include <QJsonArray>
 
 #include <string>
@@ -29,6 +30,12 @@ public:
 
     /// A file of this test's own outside the volume.
     HostPath file(const std::string& name, ByteView content) const;
+
+    /// The same for a picture, in the format of the name's ending.
+    HostPath picture(const std::string& name, const QImage& image) const;
+
+    /// The identifier of an application that can be restyled.
+    std::string plainApp() const;
 
     /// What a person could lose: both stores, the user's library, the wrapper folder and every application.
     FileTree valuables() const;

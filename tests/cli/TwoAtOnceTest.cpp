@@ -1,0 +1,48 @@
+#include "RunningCompanion.h"
+#include "model/SettingsManager.h"
+#include "model/SupportFolderLock.h"
+#include "platform/Mac.h"
+#include "platform/practice/PracticeMac.h"
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+using namespace tavrik;
+using namespace tavrik::test;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST(TwoAtOnce, TheSecondLooksButChangesNothingAndSaysWhoIsFirst) {
+    const RunningCompanion companion;
+    const std::string picture = companion.picture("square.png", QImage(64, 64, QImage::Format_RGB32)).string();
+    const std::string bundleID = companion.plainApp();
+    practice::PracticeMac practice(companion.root());
+    const auto window = SupportFolderLock::take(practice.mac(), supportFolder(practice.mac().volume), "Tavrik");
+    ASSERT_TRUE(window) << window.error().description;
+    const std::string first = "Tavrik (process " + std::to_string(::getpid()) + ")";
+
+    const FileTree before = companion.valuables();
+    const std::vector<std::string> writing[] = {
+        {"wrapper", "create", bundleID, picture},
+        {"wrapper", "update", bundleID, picture},
+        {"wrapper", "remove", bundleID},
+        {"practice", "reset"},
+    };
+    for (const auto& arguments : writing) {
+        const ToolResult result = companion.run(arguments);
+        EXPECT_EQ(result.exitStatus, 3) << arguments[0] << " " << arguments[1] << "\n" << result.output;
+        EXPECT_THAT(result.errors, HasSubstr(first)) << arguments[0] << " " << arguments[1];
+    }
+    const std::vector<std::string> looking[] = {
+        {"apps"},
+        {"dock"},
+        {"wrapper", "list"},
+        {"practice", "where"},
+    };
+    for (const auto& arguments : looking) {
+        const ToolResult result = companion.run(arguments);
+        EXPECT_EQ(result.exitStatus, 0) << arguments[0] << "\n" << result.errors;
+        EXPECT_THAT(result.errors, IsEmpty()) << arguments[0];
+    }
+    EXPECT_THAT(differences(before, companion.valuables()), IsEmpty());
+}
