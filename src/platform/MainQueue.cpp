@@ -1,7 +1,6 @@
 #include "platform/MainQueue.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QThread>
 
 #include <future>
@@ -11,13 +10,15 @@
 namespace tavrik::MainQueue {
 
 void async(QObject* context, std::function<void()> work) {
-    if (!context)
-        return;
+    async(QPointer<QObject>(context), std::move(work));
+}
+
+void async(QPointer<QObject> context, std::function<void()> work) {
     // All through one receiver, which keeps the order of posting across contexts.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
-        [guard = QPointer<QObject>(context), work = std::move(work)] {
-            if (guard)
+        [context = std::move(context), work = std::move(work)] {
+            if (context)
                 work();
         },
         Qt::QueuedConnection);
