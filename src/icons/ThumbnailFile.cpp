@@ -1,0 +1,64 @@
+#include "icons/ThumbnailFile.h"
+
+#include "icons/QtPng.h"
+#include "platform/FileManager.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+
+namespace tavrik {
+
+namespace {
+
+constexpr std::size_t kLargestThumbnailFile = 1u << 20; // bytes; pixels alone are 68 KB
+constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
+
+QRect fittedRect(QSize picture, int side) {
+    const double scale = std::min(double(side) / picture.width(), double(side) / picture.height());
+    const auto fitted = [&](int length) {
+        return std::clamp(static_cast<int>(std::lround(length * scale)), 1, side);
+    };
+    const int width = fitted(picture.width());
+    const int height = fitted(picture.height());
+    return {(side - width) / 2, (side - height) / 2, width, height};
+}
+
+} // namespace
+
+QImage drawThumbnail(const QImage& picture, ThumbnailSize size) {
+    if (picture.isNull())
+        return QImage();
+    const int side = static_cast<int>(size);
+    const QRect rect = fittedRect(picture.size(), side);
+    const QImage scaled =
+        picture.convertToFormat(kFormat).scaled(rect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (scaled.width() == side && scaled.height() == side)
+        return scaled;
+    // What lies outside the picture is transparent.
+    return scaled.copy(QRect(-rect.topLeft(), QSize(side, side)));
+}
+
+QImage readThumbnail(const FileManager& files, const MacPath& path, ThumbnailSize size) {
+    const int side = static_cast<int>(size);
+    const auto data = files.read(path, kLargestThumbnailFile);
+    QImage image = data ? qtpng::decode(*data) : QImage();
+    return image.size() == QSize(side, side) ? image : QImage();
+}
+
+Status writeThumbnail(FileManager& files, const MacPath& path, ByteView data) {
+    const auto folder = files.attributes(path.parent(), Links::dontFollow);
+    if (!folder)
+        return folder.error();
+    if (folder->type != FileType::folder)
+        return Error{path.parent().string() + ": not a folder", ENOTDIR};
+    if (const auto present = files.attributes(path, Links::dontFollow)) {
+        if (present->type == FileType::folder)
+            return Error{path.string() + ": is a folder", EISDIR};
+        if (Status removed = files.remove(path); !removed)
+            return removed;
+    }
+    return files.create(path, data);
+}
+
+} // namespace tavrik
