@@ -3,38 +3,32 @@
 #include "icons/IconCache.h"
 #include "icons/IconFiles.h"
 #include "icons/IconSweep.h"
+#include "icons/PlainFolders.h"
+#include "icons/QtPng.h"
 #include "model/SettingsManager.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/PathComponent.h"
 
-#include <QBuffer>
-#include <QImageWriter>
-
 #include <algorithm>
 #include <cerrno>
+#include <iterator>
 
 namespace tavrik {
 
 namespace {
-
-Result<Bytes> encodePng(const QImage& image) {
-    QByteArray data;
-    QBuffer buffer(&data);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    writer.setQuality(88);
-    if (image.isNull() || !writer.write(image))
-        return Error{writer.errorString().toStdString()};
-    return Bytes(data.begin(), data.end());
-}
 
 std::vector<MacPath> pathsOf(const std::vector<NumberedIcon>& icons) {
     std::vector<MacPath> paths;
     for (const NumberedIcon& icon : icons)
         paths.push_back(icon.path);
     return paths;
+}
+
+bool isFolder(const FileManager& files, const MacPath& path) {
+    const auto present = files.attributes(path, Links::dontFollow);
+    return present && present->type == FileType::folder;
 }
 
 int highestNumber(const std::vector<NumberedIcon>& icons) {
@@ -50,22 +44,11 @@ IconStore::IconStore(FileManager& files, const SettingsManager& settings, IconCa
       m_iconCacheURL(settings.iconCacheURL()),
       m_pendingIconsBaseURL(m_appSupportURL / "PendingChanges/Icons") {}
 
-Status IconStore::checkFolders(const MacPath& folder) const {
-    for (MacPath path = folder; path.isInside(m_appSupportURL); path = path.parent()) {
-        const auto present = m_files.attributes(path, Links::dontFollow);
-        if (!present && present.error().code != ENOENT)
-            return present.error();
-        if (present && present->type != FileType::folder)
-            return Error{path.string() + " is no plain folder", ENOTDIR};
-    }
-    return Done{};
-}
-
 Result<MacPath> IconStore::safeFolder(const MacPath& base, const std::string& bundleID) const {
     if (!isSafePathComponent(bundleID))
         return Error{"\"" + bundleID + "\" cannot name a folder", EINVAL};
     MacPath folder = base / bundleID;
-    if (const Status safe = checkFolders(folder); !safe)
+    if (const Status safe = checkPlainFolders(m_files, m_appSupportURL, folder); !safe)
         return safe.error();
     return folder;
 }
@@ -85,31 +68,26 @@ std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std
     const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
     if (!folder)
         return failed(folder.error());
-    const auto data = encodePng(image);
+    const auto data = qtpng::encode(image);
     if (!data) {
         log("Failed to convert icon to PNG");
         return std::nullopt;
     }
 
     const std::lock_guard lock(m_pendingLock);
-    if (const Status created = m_files.createFolder(*folder); !created)
+    if (const Status created = createPlainFolder(m_files, m_appSupportURL, *folder); !created)
         return failed(created.error());
-
     const int index = nextAvailableIndex(bundleID);
     const MacPath path = *folder / iconFileName(index);
-    if (const Status created = create(path, *data); !created)
+    if (!iconIndex(path.name()))
+        return failed({path.string() + " is no name of an icon", EINVAL});
+    if (const Status cleared = clearThumbnails(m_files, path); !cleared)
+        return failed(cleared.error());
+    if (const Status created = createAtomically(m_files, path, *data); !created)
         return failed(created.error());
     m_cache.insert(path, image);
     log("💾 Saved pending icon to: " + path.string() + " with index " + std::to_string(index));
     return path;
-}
-
-Status IconStore::create(const MacPath& icon, ByteView data) {
-    if (!iconIndex(icon.name()))
-        return Error{icon.string() + " is no name of an icon", EINVAL};
-    if (Status cleared = clearThumbnails(m_files, icon); !cleared)
-        return cleared;
-    return createAtomically(m_files, icon, data);
 }
 
 int IconStore::nextAvailableIndex(const std::string& bundleID) const {
@@ -145,6 +123,18 @@ std::vector<MacPath> IconStore::listIcons(const std::string& bundleID) const {
 std::vector<MacPath> IconStore::listPendingIcons(const std::string& bundleID) const {
     const auto found = icons(m_pendingIconsBaseURL, bundleID);
     return found ? pathsOf(*found) : std::vector<MacPath>();
+}
+
+Result<std::vector<MacPath>> IconStore::listAllIcons(const std::string& bundleID) const {
+    const auto permanent = icons(m_iconCacheURL, bundleID);
+    if (!permanent)
+        return permanent.error();
+    const auto pending = icons(m_pendingIconsBaseURL, bundleID);
+    if (!pending)
+        return pending.error();
+    std::vector<MacPath> all = pathsOf(*permanent);
+    std::ranges::copy(pathsOf(*pending), std::back_inserter(all));
+    return all;
 }
 
 void IconStore::deleteIconAndReindex(const std::string& bundleID, int index) {
@@ -215,7 +205,7 @@ std::optional<MacPath> IconStore::transferPendingIcon(const MacPath& path, const
     const auto number = iconIndex(path.name());
     if (!number || path != *source / path.name())
         return failed("It is no pending icon of " + bundleID);
-    if (const Status created = m_files.createFolder(*target); !created)
+    if (const Status created = createPlainFolder(m_files, m_appSupportURL, *target); !created)
         return failed(created.error().description);
     const auto present = numberedIcons(m_files, *target);
     if (!present)
@@ -243,29 +233,18 @@ void IconStore::cleanUpPendingIcons(const std::string& bundleID) {
 
 void IconStore::cleanUpAllPendingIcons() {
     const std::lock_guard lock(m_pendingLock);
-    bool cleaned = true;
-    for (const std::string& bundleID : pendingFolders())
-        cleaned = removePendingFolder(bundleID) && cleaned;
-    const Status safe = checkFolders(m_pendingIconsBaseURL);
+    const Status safe = checkPlainFolders(m_files, m_appSupportURL, m_pendingIconsBaseURL);
+    const auto names = safe ? m_files.list(m_pendingIconsBaseURL) : safe.error();
+    bool failed = false;
+    for (const std::string& bundleID : names ? *names : std::vector<std::string>()) {
+        if (isSafePathComponent(bundleID) && isFolder(m_files, m_pendingIconsBaseURL / bundleID))
+            failed = !removePendingFolder(bundleID) || failed;
+    }
     const Status removed = safe ? removeIconFolder(m_files, m_cache, m_pendingIconsBaseURL) : safe;
     if (removed)
         log("🧹 Cleaned up all pending icons");
-    else if (cleaned)
+    else if (!failed)
         log("⚠️ Failed to cleanup pending icons for all applications");
-}
-
-std::vector<std::string> IconStore::pendingFolders() const {
-    std::vector<std::string> folders;
-    const auto names = checkFolders(m_pendingIconsBaseURL) ? m_files.list(m_pendingIconsBaseURL)
-                                                           : Result<std::vector<std::string>>(folders);
-    if (!names)
-        return folders;
-    for (const std::string& name : *names) {
-        const auto present = m_files.attributes(m_pendingIconsBaseURL / name, Links::dontFollow);
-        if (present && present->type == FileType::folder && isSafePathComponent(name))
-            folders.push_back(name);
-    }
-    return folders;
 }
 
 bool IconStore::removePendingFolderIfEmpty(const std::string& bundleID) {
@@ -283,7 +262,7 @@ bool IconStore::removePendingFolderIfEmpty(const std::string& bundleID) {
 
 void IconStore::removeUnnamedPendingIcons(const std::set<MacPath>& named) {
     const std::lock_guard lock(m_pendingLock);
-    if (!checkFolders(m_pendingIconsBaseURL))
+    if (!checkPlainFolders(m_files, m_appSupportURL, m_pendingIconsBaseURL))
         return;
     const auto names = m_files.list(m_pendingIconsBaseURL);
     if (!names)

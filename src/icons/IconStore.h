@@ -1,7 +1,6 @@
 #pragma once
 
 #include "icons/IconMoves.h"
-#include "platform/Bytes.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
@@ -47,6 +46,8 @@ public:
     std::vector<MacPath> listIcons(const std::string& bundleID) const;
     /// The same of the pending folder, without a log line.
     std::vector<MacPath> listPendingIcons(const std::string& bundleID) const;
+    /// Both together, the permanent ones first, with an error instead of a log line.
+    Result<std::vector<MacPath>> listAllIcons(const std::string& bundleID) const;
 
     /// Removes the permanent icon at this place of the list, with its thumbnails, and renumbers the others
     /// without a gap. Nothing outside 0 to count - 1. A kill leaves every other icon, in its order.
@@ -85,11 +86,8 @@ public:
 
 private:
     Result<MacPath> safeFolder(const MacPath& base, const std::string& bundleID) const;
-    Status checkFolders(const MacPath& folder) const;
     Result<std::vector<NumberedIcon>> icons(const MacPath& base, const std::string& bundleID) const;
-    Status create(const MacPath& icon, ByteView data);
     bool removePendingFolder(const std::string& bundleID);
-    std::vector<std::string> pendingFolders() const;
 
     FileManager& m_files;
     IconCache& m_cache;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "icons/IconWhereabouts.h"
+#include "icons/TransferRecord.h"
 #include "platform/Path.h"
+#include "platform/Result.h"
 
-#include <cstdint>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -28,8 +29,8 @@ public:
 
     struct Application {
         std::string bundleID;
-        std::vector<MacPath>
-            shown;            ///< in the order of its row: the visible permanent icons, then the pending ones
+        /// In the order of its row: the visible permanent icons, then the pending ones.
+        std::vector<MacPath> shown;
         std::set<int> marked; ///< numbers of permanent icons to delete
     };
 
@@ -41,33 +42,28 @@ public:
     [[nodiscard]] bool begin(const std::vector<Application>& applications);
 
     /// Transfers one application of the record. Each step that fails is logged and skipped: its icon stays
-    /// where it was, and the numbers keep their gaps when a deletion failed.
+    /// where it was, and the numbers keep their gaps when a deletion failed. The answer has a place for each of
+    /// `shown`, or is empty when there is no record of the application or its folders cannot be read: nothing
+    /// is known to be lost then. Safe to repeat, also by another process after a kill, for as long as the
+    /// record stands: what is done is not done again, and the answer is the same.
     Places run(const std::string& bundleID);
 
     /// The bundle identifiers of a run that was begun and not ended, by this process or an earlier one.
     std::vector<std::string> interrupted() const;
 
     /// Undoes nothing, but leaves the settings right when the staged changes of an interrupted run are given
-    /// up: each application's selected icon is the one that it was before, at its present number.
+    /// up: each application's selected icon is the one that it was before, at its present number; none when it
+    /// was deleted. An application whose folders cannot be read is left as it is. Safe to repeat.
     void abandon();
 
     /// Removes the record; fine when there is none. To be called when the staged changes are gone.
     void end();
 
 private:
-    struct Icon {
-        MacPath path;
-        std::uint64_t fileID = 0;
-        std::uint64_t size = 0; ///< bytes
-    };
-
-    struct Record {
-        std::vector<Icon> shown;
-        std::vector<Icon> marked;
-        std::optional<Icon> selected; ///< the icon in use before the run
-    };
-
-    std::map<std::string, Record> load() const;
+    Status checkFolder() const;
+    TransferRecords load() const;
+    std::optional<IconWhereabouts> look(const std::string& bundleID) const;
+    Result<TransferRecord> recordOf(const Application& application, const TransferRecord* interrupted) const;
 
     FileManager& m_files;
     SettingsManager& m_settings;
