@@ -1,7 +1,10 @@
 #pragma once
 
+#include "icons/IconCache.h"
+#include "icons/IconStore.h"
 #include "model/SettingsManager.h"
 #include "model/UnsupportedAppsManager.h"
+#include "model/catalogue/AppManager.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
 #include "platform/PathRules.h"
@@ -10,7 +13,11 @@
 #include "practice/furnish/Furnish.h"
 #include "practice/furnish/LargeDatabase.h"
 #include "system/DatabaseManager.h"
+#include "system/DockManager.h"
 #include "system/IconManager.h"
+#include "system/LaunchpadManager.h"
+#include "wrappers/IconSettingsManager.h"
+#include "wrappers/TavrikAppManager.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -26,6 +33,13 @@ struct Catalogue {
     UnsupportedAppsManager unsupported;
     IconManager icons{practice.mac()};
     DatabaseManager database{practice.mac(), settings, icons, unsupported};
+    DockManager dock{practice.mac(), settings};
+    LaunchpadManager launchpad{practice.mac(), dock};
+    IconSettingsManager iconSettings{practice.mac()};
+    TavrikAppManager wrappers{practice.mac(), settings, database, dock, icons, launchpad, iconSettings};
+    IconCache cache{practice.mac().files};
+    IconStore store{practice.mac().files, settings, cache};
+    AppManager apps{database, settings, wrappers, store, cache};
 };
 
 /// Furnishes a practice Mac with so many rows in its Launchpad database. Ends the process when it cannot.

@@ -1,5 +1,4 @@
 #include "bench/BenchMac.h"
-#include "model/catalogue/AppManager.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,9 +10,8 @@ void catalogue(benchmark::State& state) {
     const HostPath root = folder.path() / "mac";
     furnishWithRows(root, static_cast<int>(state.range(0)));
     Catalogue managers(root);
-    AppManager apps(managers.database, managers.settings);
     for (auto _ : state)
-        benchmark::DoNotOptimize(apps.loadApplications());
+        benchmark::DoNotOptimize(managers.apps.loadApplications());
     state.SetComplexityN(state.range(0));
 }
 

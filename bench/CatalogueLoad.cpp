@@ -3,7 +3,6 @@
 //   catalogue_load list FOLDER
 
 #include "bench/BenchMac.h"
-#include "model/catalogue/AppManager.h"
 
 #include <cstdio>
 #include <string_view>
@@ -17,7 +16,7 @@ int main(int count, char** arguments) {
     }
     if (action == "list") {
         bench::Catalogue catalogue{HostPath(arguments[2])};
-        std::printf("%zu\n", AppManager(catalogue.database, catalogue.settings).loadApplications().size());
+        std::printf("%zu\n", catalogue.apps.loadApplications().size());
         return 0;
     }
     return 2;

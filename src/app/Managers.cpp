@@ -1,5 +1,7 @@
 #include "app/Managers.h"
 
+#include "platform/Mac.h"
+
 namespace tavrik {
 
 Managers::Managers(Mac& mac)
@@ -10,6 +12,10 @@ Managers::Managers(Mac& mac)
       launchpad(mac, dock),
       iconSettings(mac),
       wrappers(mac, settings, launchpadDatabase, dock, icons, launchpad, iconSettings),
-      apps(launchpadDatabase, settings) {}
+      iconCache(mac.files),
+      iconStore(mac.files, settings, iconCache),
+      hiddenThemeIcons(mac.defaults),
+      iconTransfer(mac.files, settings, iconStore),
+      apps(launchpadDatabase, settings, wrappers, iconStore, iconCache) {}
 
 } // namespace tavrik

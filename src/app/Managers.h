@@ -1,8 +1,13 @@
 #pragma once
 
+#include "icons/HiddenThemeIcons.h"
+#include "icons/IconCache.h"
+#include "icons/IconStore.h"
+#include "icons/IconTransfer.h"
 #include "model/SettingsManager.h"
 #include "model/UnsupportedAppsManager.h"
 #include "model/catalogue/AppManager.h"
+#include "platform/NotificationCenter.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
 #include "system/IconManager.h"
@@ -17,6 +22,7 @@ namespace tavrik {
 struct Managers {
     explicit Managers(Mac& mac);
 
+    NotificationCenter notificationCenter;
     SettingsManager settings;
     UnsupportedAppsManager unsupported;
     IconManager icons;
@@ -25,6 +31,10 @@ struct Managers {
     LaunchpadManager launchpad;
     IconSettingsManager iconSettings;
     TavrikAppManager wrappers;
+    IconCache iconCache;
+    IconStore iconStore;
+    HiddenThemeIcons hiddenThemeIcons;
+    IconTransfer iconTransfer;
     AppManager apps;
 };
 
