@@ -3,12 +3,10 @@
 #include "app/PracticeHost.h"
 #include "cli/Companion.h"
 #include "cli/HostFile.h"
+#include "platform/Png.h"
 #include "platform/practice/PracticeMac.h"
 #include "practice/furnish/Furnish.h"
 #include "practice/picture/Picture.h"
-
-#include <QBuffer>
-#include <QImageWriter>
 
 #include <cerrno>
 
@@ -24,16 +22,10 @@ ExitCode PictureCommand::run(Companion& companion) {
     const Result<QImage> drawn = practice::drawPicture(companion.practiceRoot(), options);
     if (!drawn)
         return companion.fail("The picture cannot be drawn: " + drawn.error().description);
-    QBuffer png;
-    QImageWriter writer(&png, "png");
-    writer.setQuality(88); // deflate level 1: quick, and nearly as small
-    if (!png.open(QIODevice::WriteOnly) || !writer.write(*drawn))
-        return companion.fail("The picture could not be coded: " + writer.errorString().toStdString() + ".");
-    const QByteArray& data = png.data();
-    const HostPath target(file);
-    if (Status written =
-            writeHostFile(target, bytesOf({data.constData(), static_cast<std::size_t>(data.size())}));
-        !written)
+    const Result<Bytes> coded = png::encode(*drawn);
+    if (!coded)
+        return companion.fail("The picture could not be coded: " + coded.error().description);
+    if (Status written = writeHostFile(HostPath(file), *coded); !written)
         return companion.fail(written.error().description);
     return ExitCode::done;
 }

@@ -3,9 +3,10 @@
 #include "icons/Drawing.h"
 #include "icons/PictureFormat.h"
 #include "platform/Icns.h"
+#include "platform/Png.h"
+#include "platform/StandardPicture.h"
 
 #include <QBuffer>
-#include <QColorSpace>
 #include <QImageReader>
 
 #include <algorithm>
@@ -132,20 +133,10 @@ Result<QImage> readPixels(ByteView data, const QByteArray& format, const Refusal
     if (std::max(size.width(), size.height()) > kLargestPictureSide ||
         decodedBytes(size, reader.imageFormat()) > kLargestPictureBytes)
         return refusal.tooLarge(size);
-    const QImage picture = reader.read();
+    const QImage picture = format == "png" ? png::decode(data) : reader.read();
     if (picture.isNull())
         return refusal.damaged();
     return picture;
-}
-
-/// Eight bits a channel, in sRGB. A picture that names no colours of its own is taken to be in sRGB.
-QImage standardised(const QImage& picture) {
-    QImage result = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    if (result.colorSpace().isValid())
-        result.convertToColorSpace(QColorSpace::SRgb);
-    else
-        result.setColorSpace(QColorSpace::SRgb);
-    return result;
 }
 
 Result<QImage> readDrawing(ByteView drawing, const Refusal& refusal) {

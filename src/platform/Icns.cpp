@@ -1,13 +1,13 @@
 #include "platform/Icns.h"
 
-#include <QBuffer>
-#include <QImageReader>
-#include <QImageWriter>
+#include "platform/Png.h"
+
 #include <QPainter>
 
 #include <algorithm>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace tavrik::icns {
 
@@ -127,7 +127,7 @@ std::optional<QSize> sizeOfPNG(ByteView data) {
 QImage decodePNG(ByteView data) {
     if (!sizeOfPNG(data))
         return {};
-    return QImage::fromData(data.data(), static_cast<int>(data.size()), "png");
+    return png::decode(data);
 }
 
 /// Unpacks one channel into every fourth byte, and takes what it read off the data. False when the data ends
@@ -181,15 +181,6 @@ QImage onSquare(const QImage& picture, int side) {
     QPainter painter(&square);
     painter.drawImage((side - scaled.width()) / 2, (side - scaled.height()) / 2, scaled);
     return square;
-}
-
-QByteArray pngOf(const QImage& image) {
-    constexpr int fast = 88; // zlib's level 1; from 90 on Qt does not compress at all
-    QByteArray data;
-    QBuffer buffer(&data);
-    QImageWriter writer(&buffer, "png");
-    writer.setQuality(fast);
-    return writer.write(image) ? data : QByteArray();
 }
 
 } // namespace
@@ -250,27 +241,27 @@ Bytes encode(const QImage& picture) {
 
     // Each size is half of the one above it: exact averages of four pixels, and much less work than from the
     // original each time.
-    std::vector<QByteArray> pictures(count);
+    std::vector<Bytes> pictures(count);
     QImage image = onSquare(picture, smallestSide << (count - 1));
     for (std::size_t i = count; i-- > 0;) {
-        pictures[i] = pngOf(image);
-        if (pictures[i].isEmpty())
+        auto coded = png::encode(image);
+        if (!coded)
             return {};
+        pictures[i] = std::move(*coded);
         image = image.scaled(image.width() / 2, image.height() / 2, Qt::IgnoreAspectRatio,
                              Qt::SmoothTransformation);
     }
 
     std::size_t total = kHeaderSize;
-    for (const QByteArray& png : pictures)
-        total += kHeaderSize + static_cast<std::size_t>(png.size());
+    for (const Bytes& each : pictures)
+        total += kHeaderSize + each.size();
     Bytes container;
     container.reserve(total);
     appendBigEndian(container, code("icns"));
     appendBigEndian(container, static_cast<std::uint32_t>(total));
     for (std::size_t i = 0; i < count; ++i) {
         appendBigEndian(container, types[i]);
-        appendBigEndian(container, static_cast<std::uint32_t>(kHeaderSize) +
-                                       static_cast<std::uint32_t>(pictures[i].size()));
+        appendBigEndian(container, static_cast<std::uint32_t>(kHeaderSize + pictures[i].size()));
         container.insert(container.end(), pictures[i].begin(), pictures[i].end());
     }
     return container;

@@ -6,6 +6,7 @@
 #include "platform/Mac.h"
 #include "platform/PathComponent.h"
 #include "platform/PropertyList.h"
+#include "platform/StandardPicture.h"
 #include "platform/Workspace.h"
 
 #include <QColorSpace>
@@ -68,11 +69,6 @@ QRect fittedRect(QSize size) {
     const int width = fitted(size.width());
     const int height = fitted(size.height());
     return {(kSquareSide - width) / 2, (kSquareSide - height) / 2, width, height};
-}
-
-bool isSRGB(const QImage& image) {
-    const QColorSpace space = image.colorSpace();
-    return !space.isValid() || space == QColorSpace(QColorSpace::SRgb);
 }
 
 /// Averages areas on the way down and interpolates on the way up. Null when there is no memory for it.

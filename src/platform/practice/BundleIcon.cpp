@@ -3,6 +3,7 @@
 #include "platform/FileManager.h"
 #include "platform/Icns.h"
 #include "platform/PathComponent.h"
+#include "platform/Png.h"
 #include "platform/practice/PropertyListFile.h"
 
 namespace tavrik::practice {
@@ -63,7 +64,7 @@ QImage readIcon(const FileManager& files, const MacPath& file) {
     if (!bytes)
         return {};
     const QImage picture = icns::largestImage(*bytes);
-    return picture.isNull() ? QImage::fromData(bytes->data(), static_cast<int>(bytes->size()), "PNG") : picture;
+    return picture.isNull() ? png::decode(*bytes) : picture;
 }
 
 } // namespace
