@@ -1,5 +1,9 @@
 #pragma once
 
+#include "fonts/CharacterTable.h"
+#include "fonts/StyleTable.h"
+
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -49,8 +53,12 @@ public:
     std::string folded(std::string_view text) const;
 
 private:
+    std::optional<std::size_t> indexOf(std::string_view name) const;
+
     std::vector<FontMap> m_allFontMaps;
     std::map<std::string, std::string> m_allFontCharsToNormal;
+    CharacterTable m_characters;
+    std::vector<StyleTable> m_styleTables; ///< beside `m_allFontMaps`
 };
 
 } // namespace tavrik
