@@ -1,11 +1,11 @@
 #include "icons/IconCache.h"
 
-#include "icons/QtPng.h"
 #include "icons/ThumbnailFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/MainQueue.h"
 #include "platform/PathRules.h"
+#include "platform/Png.h"
 
 #include <array>
 #include <cerrno>
@@ -177,7 +177,7 @@ QImage IconCache::readIcon(const MacPath& path) const {
         log("IconCache: File doesn't exist at " + path.string());
         return QImage();
     }
-    QImage image = data ? qtpng::decode(*data) : QImage();
+    QImage image = data ? png::decode(*data) : QImage();
     if (image.isNull())
         log("IconCache: Failed to load icon from " + path.string());
     else if (image.width() < kExpectedSide || image.height() < kExpectedSide)
@@ -207,7 +207,7 @@ std::optional<IconCache::Making> IconCache::drawThumbnails(const MacPath& path) 
     Making making;
     for (const ThumbnailSize size : kSizes) {
         const QImage image = drawThumbnail(picture, size);
-        making.thumbnails.push_back({size, image, qtpng::encode(image)});
+        making.thumbnails.push_back({size, image, png::encode(image)});
     }
     return making;
 }

@@ -4,12 +4,12 @@
 #include "icons/IconFiles.h"
 #include "icons/IconSweep.h"
 #include "icons/PlainFolders.h"
-#include "icons/QtPng.h"
 #include "model/SettingsManager.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/PathComponent.h"
+#include "platform/Png.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -68,7 +68,7 @@ std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std
     const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
     if (!folder)
         return failed(folder.error());
-    const auto data = qtpng::encode(image);
+    const auto data = png::encode(image);
     if (!data) {
         log("Failed to convert icon to PNG");
         return std::nullopt;

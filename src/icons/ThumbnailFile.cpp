@@ -1,7 +1,7 @@
 #include "icons/ThumbnailFile.h"
 
-#include "icons/QtPng.h"
 #include "platform/FileManager.h"
+#include "platform/Png.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -42,7 +42,7 @@ QImage drawThumbnail(const QImage& picture, ThumbnailSize size) {
 QImage readThumbnail(const FileManager& files, const MacPath& path, ThumbnailSize size) {
     const int side = static_cast<int>(size);
     const auto data = files.read(path, kLargestThumbnailFile);
-    QImage image = data ? qtpng::decode(*data) : QImage();
+    QImage image = data ? png::decode(*data) : QImage();
     return image.size() == QSize(side, side) ? image : QImage();
 }
 

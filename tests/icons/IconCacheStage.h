@@ -1,7 +1,7 @@
 #pragma once
 
 #include "icons/IconCache.h"
-#include "icons/QtPng.h"
+#include "platform/Png.h"
 #include "support/SmallMac.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ struct IconFolder {
 
     void put(const MacPath& file, const QImage& image) const {
         ignoreFailure(files.remove(file));
-        ASSERT_TRUE(files.create(file, *qtpng::encode(image)));
+        ASSERT_TRUE(files.create(file, *png::encode(image)));
     }
 
     FileManager& files;
