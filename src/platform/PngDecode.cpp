@@ -1,5 +1,5 @@
 #include "platform/Png.h"
-#include "platform/PngChunks.h"
+#include "platform/PngContents.h"
 #include "platform/PngFilter.h"
 #include "platform/StandardPicture.h"
 
@@ -10,7 +10,6 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-#include <limits>
 #include <memory>
 #include <new>
 #include <utility>
@@ -18,91 +17,6 @@
 namespace tavrik::png {
 
 namespace {
-
-enum class Way {
-    none,  ///< damaged, or no PNG
-    quick, ///< ours
-    qt,    ///< whatever ours does not know
-};
-
-/// What a walk over the chunks finds.
-struct Contents {
-    Way way = Way::none;
-    std::uint32_t width = 0; ///< pixels
-    std::uint32_t height = 0;
-    std::size_t pixelBytes = 0;
-    std::vector<ByteView> pixels; ///< compressed, in pieces
-};
-
-/// Bytes of a pixel of eight bits a channel; 0 for what the quick path leaves alone.
-std::size_t pixelBytesOf(std::uint8_t colourType) {
-    switch (colourType) {
-    case 0: // grey
-        return 1;
-    case 4: // grey and alpha
-        return 2;
-    case 2: // red, green, blue
-        return 3;
-    case 6: // and alpha
-        return 4;
-    default:
-        return 0;
-    }
-}
-
-/// False when it gives no size that a picture can have.
-bool readHeader(ByteView header, Contents& contents) {
-    constexpr std::uint32_t most = std::numeric_limits<std::int32_t>::max();
-    contents.width = bigEndian(header);
-    contents.height = bigEndian(header.subspan(4));
-    contents.pixelBytes = pixelBytesOf(header[9]);
-    const bool isPlain = header[8] == 8 && header[10] == 0 && header[11] == 0 && header[12] == 0;
-    contents.way = isPlain && contents.pixelBytes > 0 ? Way::quick : Way::qt;
-    return contents.width > 0 && contents.width <= most && contents.height > 0 && contents.height <= most;
-}
-
-/// Whether a chunk other than the pixels leaves the quick path's pixels as they are.
-bool isHarmless(const Chunk& chunk) {
-    switch (chunk.type) {
-    case chunkType("tRNS"):
-    case chunkType("iCCP"):
-    case chunkType("gAMA"):
-    case chunkType("cHRM"):
-        return false;
-    default:
-        return chunk.isIntact && !chunk.isCritical();
-    }
-}
-
-Contents survey(ByteView data) {
-    constexpr std::size_t headerSize = 13;
-    if (data.size() < std::size(kSignature) ||
-        !std::ranges::equal(kSignature, data.first(std::size(kSignature))))
-        return {};
-    ChunkReader reader(data.subspan(std::size(kSignature)));
-    const auto first = reader.next();
-    if (!first || first->type != chunkType("IHDR") || !first->isIntact || first->data.size() != headerSize)
-        return {};
-    Contents contents;
-    if (!readHeader(first->data, contents))
-        return {};
-    for (auto before = first->type;;) {
-        const auto chunk = reader.next();
-        if (!chunk || (chunk->isCritical() && !chunk->isIntact))
-            return {};
-        if (chunk->type == chunkType("IEND"))
-            break;
-        if (chunk->type == chunkType("IDAT")) {
-            if (!contents.pixels.empty() && before != chunk->type)
-                contents.way = Way::qt;
-            contents.pixels.push_back(chunk->data);
-        } else if (!isHarmless(*chunk)) {
-            contents.way = Way::qt;
-        }
-        before = chunk->type;
-    }
-    return contents.pixels.empty() ? Contents{} : contents;
-}
 
 /// The pieces as one; joined in `storage` when there are several.
 ByteView joined(const std::vector<ByteView>& pieces, Bytes& storage) {
