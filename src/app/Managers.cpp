@@ -16,6 +16,7 @@ Managers::Managers(Mac& mac)
       iconStore(mac.files, settings, iconCache),
       hiddenThemeIcons(mac.defaults),
       iconTransfer(mac.files, settings, iconStore),
-      apps(launchpadDatabase, settings, wrappers, iconStore, iconCache) {}
+      apps(launchpadDatabase, settings, wrappers, iconStore, iconCache),
+      pendingChanges(mac, settings, iconStore, iconTransfer, notificationCenter) {}
 
 } // namespace tavrik

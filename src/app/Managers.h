@@ -1,5 +1,6 @@
 #pragma once
 
+#include "changes/PendingChangesManager.h"
 #include "icons/HiddenThemeIcons.h"
 #include "icons/IconCache.h"
 #include "icons/IconStore.h"
@@ -36,6 +37,7 @@ struct Managers {
     HiddenThemeIcons hiddenThemeIcons;
     IconTransfer iconTransfer;
     AppManager apps;
+    PendingChangesManager pendingChanges;
 };
 
 } // namespace tavrik

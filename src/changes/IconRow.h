@@ -11,10 +11,10 @@ struct ApplicationInfo;
 
 /// The icons of one application as its row shows them, staged changes included.
 struct IconRow {
-    std::vector<MacPath> permanentIconPaths;
-    std::vector<MacPath> pendingAdditionPaths;
-    std::set<int> hiddenPermanentIndices; ///< numbers of permanent icons
-    int selectedIconIndex = -1;           ///< place in `displayPaths`; -1 = the application's own icon
+    std::vector<MacPath> permanentIconPaths{};
+    std::vector<MacPath> pendingAdditionPaths{};
+    std::set<int> hiddenPermanentIndices{}; ///< numbers of permanent icons
+    int selectedIconIndex = -1;             ///< place in `displayPaths`; -1 = the application's own icon
 
     /// The visible permanent icons, then the pending ones.
     std::vector<MacPath> displayPaths() const;

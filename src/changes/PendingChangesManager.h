@@ -1,8 +1,11 @@
 #pragma once
 
+#include "changes/AppliedIcons.h"
 #include "changes/IconRow.h"
+#include "changes/RecoveryFile.h"
 #include "changes/StagedChanges.h"
 #include "platform/Path.h"
+#include "platform/Result.h"
 
 #include <array>
 #include <optional>
@@ -28,12 +31,14 @@ inline constexpr std::string_view kPendingChangesUpdated = "PendingChangesUpdate
 /// "PendingChanges/pendingChanges.plist". Nothing here touches the system: staging is undone by staging the
 /// opposite or by discarding all.
 ///
-/// Main thread only. Each staging operation returns when the recovery file is on stable storage, or has logged
-/// why it is not; what is in memory stays the authority then, and the next operation writes all of it again.
-/// The file is there exactly while something is staged, and is replaced in one step: a kill leaves the state
-/// before the operation or the state after it. Pending icon files are written before and removed after the file
-/// that names them, so the worst that a kill leaves is an icon file that nothing names; `recover` removes such
-/// files.
+/// Main thread only, and it blocks on the disk for a file of a few kilobytes. Each staging operation returns
+/// when the recovery file is on stable storage, or has logged why it is not; what is in memory stays the
+/// authority then, and the next operation writes all of it again. The file is there exactly while something is
+/// staged, and is replaced in one step: a kill leaves the state before the operation or the state after it.
+/// Pending icon files are written before and removed after the file that names them, so the worst that a kill
+/// or a failed write leaves is an icon file that nothing names; `recover` removes such files.
+///
+/// A recovery file of an earlier session that could not be recovered is put aside before the first write.
 class PendingChangesManager {
 public:
     PendingChangesManager(Mac& mac, SettingsManager& settings, IconStore& store, IconTransfer& transfer,
@@ -53,12 +58,17 @@ public:
 
     const MacPath& tavrikAppsURL() const { return m_tavrikAppsURL; }
 
-    const MacPath& tempFileURL() const { return m_tempFileURL; }
+    const MacPath& tempFileURL() const { return m_file.path(); }
 
     const MacPath& pendingChangesBaseURL() const { return m_pendingChangesBaseURL; }
 
-    /// The icons of an application as they would be shown now. Reads its folders.
+    const MacPath& pendingIconsBaseURL() const;
+
+    /// The icons of an application as they would be shown now. Reads its folder. While nothing is staged for
+    /// it, a selection in the settings that is no permanent icon's number counts as -1.
     IconRow iconRow(const std::string& bundleID) const;
+    /// The same with other changes in the place of those that are staged here.
+    IconRow iconRow(const std::string& bundleID, const StagedChanges& changes) const;
 
     /// An icon that the store has just saved: it comes last in the row and is chosen. A path that is not a
     /// pending icon of this application, or is not there, is refused.
@@ -67,9 +77,11 @@ public:
     /// are applied. The choice stays with its icon; when that is the removed one, the application's own is
     /// chosen.
     bool removeIcon(const std::string& bundleID, int displayIndex);
-    /// A place in the row or behind it among the theme icons offered; nothing = the application's own icon.
+    /// A place in the row or behind it among the theme icons offered, how many there are the caller knows;
+    /// nothing = the application's own icon.
     bool selectIcon(const std::string& bundleID, std::optional<int> index);
 
+    /// Names that cannot be a file's are refused with a log line, here and below. Staging twice is fine.
     void hideThemeIcon(const std::string& themeID, const std::string& iconFileName);
     /// Takes a staged hide back.
     void unhideThemeIcon(const std::string& themeID, const std::string& iconFileName);
@@ -80,22 +92,47 @@ public:
     void setPendingFont(const std::optional<std::string>& font);
     void setPendingReset(bool reset);
 
-    /// Records what an application's row has become. Its entry is dropped when that is what is applied.
+    /// Records what an application's row has become. Its entry is dropped when that is what is applied. A path
+    /// that is not its pending icon's and a number of no permanent icon are left out, each with a log line.
     void updatePendingState(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
                             const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
 
+    /// Writes what is staged to the recovery file, or removes the file when nothing is. Every operation above
+    /// does it; an apply does it again and must not begin unless it is true.
+    bool savePendingChangesToTempFile();
+
     /// Whether the recovery file holds anything. Changes nothing.
     bool hasRecoverableChanges() const;
-    /// Takes the staged changes from the recovery file. Icons that an interrupted apply had moved are found
-    /// where they are now, and what is missing or not to be trusted is left out, each with a log line. False
-    /// when the file is missing or cannot be read; it is left as it is then, and nothing is staged.
+    /// Takes the staged changes from the recovery file. To be called before anything is staged, also when there
+    /// is no file, since it removes the pending icons that nothing names. Icons that an interrupted apply had
+    /// moved are found where they are now, and what is missing or not to be trusted is left out, each with a
+    /// log line. False when the file is missing, or cannot be read or checked to the end; it is left as it is
+    /// then, and nothing is staged. Safe to repeat after a kill at any moment.
     bool recover();
-    /// Drops everything that is staged, the pending icons and the recovery file.
+
+    /// What was staged has been applied: it is dropped with the recovery file and the record of the transfer,
+    /// and the styled alphabet in effect is read anew. Icons that could not be moved to the permanent ones and
+    /// are still pending stay staged.
+    void noteApplied();
+
+    /// Drops everything that is staged, the pending icons and the recovery file: the person does not want it.
+    /// Not for the end of an apply. When the file cannot be removed, it and the icons that it names stay on
+    /// disk.
     void clearAllPendingChanges();
 
 private:
-    void updatePendingChangesState();
-    void savePendingChangesToTempFile();
+    bool stageRow(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
+                  const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
+    bool updatePendingChangesState();
+    void updateFlags();
+    bool takeOverFile();
+    enum class PendingIcons { keep, cleanUp };
+    void clear(PendingIcons pendingIcons);
+    Result<bool> followTransfer(const std::string& bundleID, const std::vector<MacPath>& shown,
+                                IconChange& change);
+    Result<bool> recoverRow(const std::string& bundleID, StagedChanges& recovered) const;
+    void sweep();
+    bool isPendingIconOf(const MacPath& path, const std::string& bundleID) const;
 
     FileManager& m_files;
     Clock& m_clock;
@@ -107,10 +144,17 @@ private:
     bool m_hasPendingChanges = false;
     bool m_isInitializing = true; ///< nothing is saved while it is set
     StagedChanges m_staged;
+    /// Applications of which an apply was interrupted: what the settings say of them need not be what the Dock
+    /// shows, so their entries stay even when they equal it.
+    std::set<std::string> m_unfinished;
     std::optional<std::string> m_activeFont;
     MacPath m_tavrikAppsURL;
     MacPath m_pendingChangesBaseURL;
-    MacPath m_tempFileURL;
+    RecoveryFile m_file;
+    bool m_isFileOurs = false;       ///< what the file says was taken in, given up, or written by this object
+    bool m_recoveryFailed = false;   ///< the file may be good, but was not taken in
+    bool m_transferHasEnded = false; ///< its record goes with the next successful write
+    mutable AppliedIcons m_applied;
 };
 
 } // namespace tavrik

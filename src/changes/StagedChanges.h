@@ -13,13 +13,17 @@ namespace tavrik {
 /// What is staged for the icons of one application.
 struct IconChange {
     /// What its row shows: the visible permanent icons, then the pending ones.
-    std::vector<MacPath> iconPaths;
+    std::vector<MacPath> iconPaths{};
     /// Place in `iconPaths`, or behind them among the theme icons offered; nothing = the application's own
     /// icon.
-    std::optional<int> selectedIndex;
+    std::optional<int> selectedIndex{};
 
     bool operator==(const IconChange&) const = default;
 };
+
+/// Where the chosen icon stands in another row of the same application; a theme icon keeps its distance from
+/// the row's end. Nothing when that row does not have it.
+std::optional<int> selectionIn(const std::vector<MacPath>& row, const IconChange& change);
 
 struct ThemeIconHide {
     std::string themeID;

@@ -97,19 +97,25 @@ Result<TransferRecord> IconTransfer::recordOf(const Application& application,
     return record;
 }
 
-TransferRecords IconTransfer::load() const {
+Result<TransferRecords> IconTransfer::read() const {
     const auto data = checkFolder() ? m_files.read(m_recordURL, kLargestRecord) : Error{{}, ENOENT};
+    if (!data && data.error().code == ENOENT)
+        return TransferRecords();
     const auto root = data ? plist::parse(*data) : data.error();
     if (!root) {
-        if (root.error().code != ENOENT)
-            log("Failed to read the record of the icon transfer: " + root.error().description);
-        return {};
+        log("Failed to read the record of the icon transfer: " + root.error().description);
+        return data ? TransferRecords() : Result<TransferRecords>(data.error());
     }
     std::vector<std::string> remarks;
     TransferRecords records = decodeTransferRecords(*root, m_store, remarks);
     for (const std::string& remark : remarks)
         log(remark);
     return records;
+}
+
+TransferRecords IconTransfer::load() const {
+    auto records = read();
+    return records ? std::move(*records) : TransferRecords();
 }
 
 IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
@@ -167,6 +173,19 @@ std::vector<std::string> IconTransfer::interrupted() const {
     for (const auto& [bundleID, record] : load())
         bundleIDs.push_back(bundleID);
     return bundleIDs;
+}
+
+Result<std::map<std::string, std::vector<MacPath>>> IconTransfer::recorded() const {
+    const auto records = read();
+    if (!records)
+        return records.error();
+    std::map<std::string, std::vector<MacPath>> shown;
+    for (const auto& [bundleID, record] : *records) {
+        std::vector<MacPath>& paths = shown[bundleID];
+        for (const RecordedIcon& icon : record.shown)
+            paths.push_back(icon.path);
+    }
+    return shown;
 }
 
 void IconTransfer::abandon() {

@@ -5,6 +5,7 @@
 #include "platform/Path.h"
 #include "platform/Result.h"
 
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -51,6 +52,10 @@ public:
     /// The bundle identifiers of a run that was begun and not ended, by this process or an earlier one.
     std::vector<std::string> interrupted() const;
 
+    /// What such a run took for `shown`, by bundle identifier. None when there is no record, or a damaged one;
+    /// an error when there is one and it cannot be read just now.
+    Result<std::map<std::string, std::vector<MacPath>>> recorded() const;
+
     /// Undoes nothing, but leaves the settings right when the staged changes of an interrupted run are given
     /// up: each application's selected icon is the one that it was before, at its present number; none when it
     /// was deleted. An application whose folders cannot be read is left as it is. Safe to repeat.
@@ -61,6 +66,7 @@ public:
 
 private:
     Status checkFolder() const;
+    Result<TransferRecords> read() const;
     TransferRecords load() const;
     std::optional<IconWhereabouts> look(const std::string& bundleID) const;
     Result<TransferRecord> recordOf(const Application& application, const TransferRecord* interrupted) const;

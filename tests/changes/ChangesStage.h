@@ -1,0 +1,161 @@
+#pragma once
+
+#include "changes/PendingChangesManager.h"
+#include "icons/IconCache.h"
+#include "icons/IconFiles.h"
+#include "icons/IconStore.h"
+#include "icons/IconTransfer.h"
+#include "model/SettingsManager.h"
+#include "platform/NotificationCenter.h"
+#include "platform/PropertyList.h"
+#include "support/LogRecorder.h"
+#include "support/SmallMac.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace tavrik::test {
+
+inline const std::string kAtlas = "com.example.atlas";
+
+/// What staging needs of the program; another one over the same volume is the program after a restart.
+struct Program {
+    explicit Program(Mac& mac)
+        : settings(mac),
+          cache(mac.files),
+          store(mac.files, settings, cache),
+          transfer(mac.files, settings, store),
+          changes(mac, settings, store, transfer, notifications) {}
+
+    SettingsManager settings;
+    IconCache cache;
+    IconStore store;
+    IconTransfer transfer;
+    NotificationCenter notifications;
+    PendingChangesManager changes;
+};
+
+/// A Mac with icons of one colour each; the colour's number tells them apart wherever they are.
+class ChangesStage : public testing::Test {
+protected:
+    using Numbers = std::vector<int>;
+
+    void restart() {
+        program.reset();
+        files.failNothing();
+        program = std::make_unique<Program>(small.mac);
+    }
+
+    /// The icon saved and staged. False when it could not be.
+    bool add(int number, const std::string& bundleID = kAtlas) {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(QRgb(0xFF000000U + static_cast<unsigned>(number)));
+        const auto path = program->store.savePendingIcon(image, bundleID);
+        return path && changes().addIcon(bundleID, *path);
+    }
+
+    /// Brings all that is staged into effect, as an apply does. True when it came to its end.
+    bool apply() {
+        if (!changes().savePendingChangesToTempFile())
+            return false;
+        const StagedChanges staged = changes().staged();
+        std::vector<IconTransfer::Application> applications;
+        for (const auto& [bundleID, change] : staged.pendingChanges) {
+            const auto marked = staged.markedForDeletion.find(bundleID);
+            applications.push_back(
+                {bundleID, change.iconPaths,
+                 marked == staged.markedForDeletion.end() ? std::set<int>() : marked->second});
+        }
+        if (!program->transfer.begin(applications))
+            return false;
+        for (const auto& [bundleID, change] : staged.pendingChanges) {
+            const auto places = program->transfer.run(bundleID);
+            const auto selected = static_cast<std::size_t>(change.selectedIndex.value_or(-1));
+            program->settings.setSelectedIcon(
+                bundleID, selected < places.size() && places[selected]
+                              ? std::optional<std::int64_t>(iconIndex(places[selected]->name()))
+                              : std::nullopt);
+        }
+        changes().noteApplied();
+        return !changes().hasPendingChanges() && !files.exists(changes().tempFileURL());
+    }
+
+    /// Atlas with the permanent icons of these numbers, the last one in use.
+    void furnish(const Numbers& numbers) {
+        for (const int number : numbers)
+            ASSERT_TRUE(add(number));
+        ASSERT_TRUE(apply());
+    }
+
+    int numberOf(const MacPath& icon) const {
+        const auto content = small.files.read(icon, FileManager::kLargestRead);
+        const QImage image =
+            content ? QImage::fromData(content->data(), static_cast<int>(content->size())) : QImage();
+        return image.isNull() ? -1 : static_cast<int>(image.pixel(0, 0) & 0xFFFFFF);
+    }
+
+    Numbers numbersOf(const std::vector<MacPath>& icons) const {
+        Numbers numbers;
+        for (const MacPath& icon : icons)
+            numbers.push_back(numberOf(icon));
+        return numbers;
+    }
+
+    /// The icons of the row, staged changes included, and the chosen one; -1 for the application's own.
+    struct Row {
+        Numbers shown;
+        int chosen = -1;
+
+        bool operator==(const Row&) const = default;
+
+        friend void PrintTo(const Row& row, std::ostream* out) {
+            *out << testing::PrintToString(row.shown) << " chosen " << row.chosen;
+        }
+    };
+
+    Row row(const std::string& bundleID = kAtlas) const {
+        const IconRow icons = program->changes.iconRow(bundleID);
+        Row found{.shown = numbersOf(icons.displayPaths())};
+        if (icons.selectedIconIndex >= 0)
+            found.chosen = found.shown.at(static_cast<std::size_t>(icons.selectedIconIndex));
+        return found;
+    }
+
+    /// Every icon file of the application, pending ones included, in no order.
+    Numbers onDisk(const std::string& bundleID = kAtlas) const {
+        Numbers numbers = numbersOf(program->store.listIcons(bundleID));
+        for (const int number : numbersOf(program->store.listPendingIcons(bundleID)))
+            numbers.push_back(number);
+        std::ranges::sort(numbers);
+        return numbers;
+    }
+
+    std::optional<plist::Value> recoveryFile() const {
+        const auto content = small.files.read(changes().tempFileURL(), FileManager::kLargestRead);
+        auto root = content ? plist::parse(*content) : Result<plist::Value>(Error{});
+        return root ? std::optional(*root) : std::nullopt;
+    }
+
+    void writeRecoveryFile(const plist::Dictionary& root) {
+        ASSERT_TRUE(files.write(changes().tempFileURL(), *plist::serialize(root, plist::Format::xml)));
+    }
+
+    PendingChangesManager& changes() { return program->changes; }
+
+    const PendingChangesManager& changes() const { return program->changes; }
+
+    MacPath pending(const std::string& name) const { return changes().pendingIconsBaseURL() / kAtlas / name; }
+
+    MacPath permanent(const std::string& name) const { return program->store.iconCacheURL() / kAtlas / name; }
+
+    LogRecorder log; ///< before what logs
+    SmallMac small;
+    FailingFileManager& files = small.files;
+    std::unique_ptr<Program> program = std::make_unique<Program>(small.mac);
+};
+
+} // namespace tavrik::test
