@@ -4,8 +4,8 @@
 #include "icons/IconMoves.h"
 #include "icons/IconStore.h"
 #include "icons/IconTransfer.h"
-#include "icons/QtPng.h"
 #include "model/SettingsManager.h"
+#include "platform/Png.h"
 #include "support/SmallMac.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ struct IconStoreStage {
 
     void putFile(const MacPath& path, int colour) {
         ASSERT_TRUE(disk.createFolder(path.parent()));
-        ASSERT_TRUE(disk.create(path, *qtpng::encode(picture(colour))));
+        ASSERT_TRUE(disk.create(path, *png::encode(picture(colour))));
     }
 
     /// With its thumbnails.
@@ -47,7 +47,7 @@ struct IconStoreStage {
     /// 0 when there is no picture.
     int colour(const MacPath& path) const {
         const auto data = disk.read(path);
-        return data ? qtpng::decode(*data).pixelColor(0, 0).red() : 0;
+        return data ? png::decode(*data).pixelColor(0, 0).red() : 0;
     }
 
     /// Of the icons in a folder by number, those under temporary names included. A thumbnail that shows another

@@ -160,11 +160,12 @@ TEST_F(IconTransferTest, ASecondRunRemembersTheSelectionFromBeforeTheFirst) {
 
 TEST_F(IconTransferTest, FindsIconsThatWereCopiedElsewhereAndBackAndDeletesNoneOfThem) {
     ASSERT_TRUE(transfer.begin(staged(program.store)));
+    // All copies first, or a file system that gives numbers out again would give them the same ones.
+    for (const MacPath& folder : {stage.permanent, stage.pending})
+        ASSERT_TRUE(stage.disk.copy(folder, MacPath(folder.string() + " copy")));
     for (const MacPath& folder : {stage.permanent, stage.pending}) {
-        const MacPath aside = stage.support / "aside";
-        ASSERT_TRUE(stage.disk.copy(folder, aside));
         ASSERT_TRUE(stage.disk.remove(folder));
-        ASSERT_TRUE(stage.disk.move(aside, folder));
+        ASSERT_TRUE(stage.disk.move(MacPath(folder.string() + " copy"), folder));
     }
     EXPECT_THAT(coloursAt(stage, transfer.run(kAtlas)), kRow);
     EXPECT_THAT(stage.colours(stage.permanent), ElementsAre(1, 2, 3, 4, 5, 6));
