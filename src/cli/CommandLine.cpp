@@ -1,16 +1,36 @@
 #include "cli/CommandLine.h"
 
+#include "cli/IconCommands.h"
 #include "cli/ListCommands.h"
 #include "cli/PracticeCommands.h"
+#include "cli/StagingCommands.h"
 #include "cli/WrapperCommands.h"
 
 namespace tavrik {
 
 namespace {
 
+constexpr const char* kImageFiles = "PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS file";
+
 std::string mustBePng(const std::string& file) {
     return file.size() > 4 && file.ends_with(".png") ? std::string()
                                                      : "the picture is a PNG file: its name ends in .png";
+}
+
+std::string mustBeIndex(const std::string& index) {
+    const bool isNumber = !index.empty() && index.find_first_not_of("0123456789") == std::string::npos;
+    return isNumber ? std::string() : "an index is a number, as \"icon list\" shows it";
+}
+
+std::string mustBeIndexOrNone(const std::string& index) {
+    const std::string wrong = mustBeIndex(index);
+    return wrong.empty() || index == IconIndexCommand::kNone
+               ? std::string()
+               : wrong + ", or none for the application's own icon";
+}
+
+void addBundleID(CLI::App& command, std::string& bundleID) {
+    command.add_option("BUNDLE-ID", bundleID, "The application's bundle identifier")->required();
 }
 
 } // namespace
@@ -42,15 +62,60 @@ CommandLine::CommandLine()
                "tavrikctl") {
     m_parser.require_subcommand(1);
     m_parser.set_version_flag("--version", "tavrikctl " TAVRIK_VERSION);
-    CLI::App* command = nullptr;
+    declareLists();
+    declareIcons();
+    declareStaging();
+    declareWrappers();
+    declarePractice();
+}
 
+void CommandLine::declareLists() {
+    CLI::App* command = nullptr;
     AppsCommand& apps =
         add<AppsCommand>(m_parser, "apps", "List the applications that Launchpad shows", command);
     addJson(*command, apps.json);
 
     DockCommand& dock = add<DockCommand>(m_parser, "dock", "List the Dock's application tiles", command);
     addJson(*command, dock.json);
+}
 
+void CommandLine::declareIcons() {
+    CLI::App* command = nullptr;
+    CLI::App& icon = *m_parser.add_subcommand("icon", "Pictures of your own for applications, staged");
+    icon.require_subcommand(1);
+    IconAddCommand& more = add<IconAddCommand>(icon, "add", "Give an application more icons", command);
+    addBundleID(*command, more.bundleID);
+    command->add_option("IMAGE", more.pictures, kImageFiles)->required();
+
+    IconListCommand& list = add<IconListCommand>(icon, "list", "List an application's icons", command);
+    addBundleID(*command, list.bundleID);
+    addJson(*command, list.json);
+
+    using Kind = IconIndexCommand::Kind;
+    IconIndexCommand& select =
+        add<IconIndexCommand>(icon, "select", "Choose among an application's icons", command, Kind::select);
+    addBundleID(*command, select.bundleID);
+    command->add_option("INDEX", select.index, "As \"icon list\" shows it, or none for its own icon")
+        ->required()
+        ->check(mustBeIndexOrNone);
+
+    IconIndexCommand& remove =
+        add<IconIndexCommand>(icon, "remove", "Take an icon away", command, Kind::remove);
+    addBundleID(*command, remove.bundleID);
+    command->add_option("INDEX", remove.index, "As \"icon list\" shows it")->required()->check(mustBeIndex);
+}
+
+void CommandLine::declareStaging() {
+    CLI::App* command = nullptr;
+    StatusCommand& status =
+        add<StatusCommand>(m_parser, "status", "Tell what is staged and not applied", command);
+    addJson(*command, status.json);
+    add<DiscardCommand>(m_parser, "discard", "Drop all that is staged", command);
+    add<RecoverCommand>(m_parser, "recover", "Mend what is staged after a crash, and tell it", command);
+}
+
+void CommandLine::declareWrappers() {
+    CLI::App* command = nullptr;
     CLI::App& wrapper =
         *m_parser.add_subcommand("wrapper", "Give applications a look of their own, and take it back");
     wrapper.require_subcommand(1);
@@ -59,17 +124,19 @@ CommandLine::CommandLine()
          {std::tuple{"create", "Restyle an application with a picture", Kind::create},
           std::tuple{"update", "Give a restyled application another picture", Kind::update}}) {
         WrapperIconCommand& icon = add<WrapperIconCommand>(wrapper, name, description, command, kind);
-        command->add_option("BUNDLE-ID", icon.bundleID, "The application's bundle identifier")->required();
-        command->add_option("IMAGE", icon.picture, "PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS file")
-            ->required();
+        addBundleID(*command, icon.bundleID);
+        command->add_option("IMAGE", icon.picture, kImageFiles)->required();
     }
     WrapperRemoveCommand& remove =
         add<WrapperRemoveCommand>(wrapper, "remove", "Give an application its own look back", command);
-    command->add_option("BUNDLE-ID", remove.bundleID, "The application's bundle identifier")->required();
+    addBundleID(*command, remove.bundleID);
     WrapperListCommand& list =
         add<WrapperListCommand>(wrapper, "list", "List the restyled applications", command);
     addJson(*command, list.json);
+}
 
+void CommandLine::declarePractice() {
+    CLI::App* command = nullptr;
     PictureCommand& picture =
         add<PictureCommand>(m_parser, "picture", "Draw Launchpad and the Dock of the practice Mac", command);
     command->add_option("FILE", picture.file, "The PNG file to write")->required()->check(mustBePng);

@@ -22,6 +22,12 @@ public:
     bool wantsJson() const { return m_json; }
 
 private:
+    void declareLists();
+    void declareIcons();
+    void declareStaging();
+    void declareWrappers();
+    void declarePractice();
+
     template<typename T, typename... Arguments>
     T& add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
            Arguments... arguments);

@@ -53,13 +53,17 @@ void Companion::say(std::string_view line) const {
     printLine(stdout, line);
 }
 
-ExitCode Companion::fail(std::string_view sentence) const {
+void Companion::complain(std::string_view sentence) const {
     printLine(stderr, sentence);
+}
+
+ExitCode Companion::fail(std::string_view sentence) const {
+    complain(sentence);
     return ExitCode::failed;
 }
 
 ExitCode Companion::refuse(std::string_view sentence) const {
-    printLine(stderr, sentence);
+    complain(sentence);
     return ExitCode::refused;
 }
 

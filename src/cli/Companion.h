@@ -57,7 +57,10 @@ public:
     /// A line on standard output: what the person asked for.
     void say(std::string_view line) const;
 
-    /// A sentence on standard error, and the code to end with.
+    /// A sentence on standard error.
+    void complain(std::string_view sentence) const;
+
+    /// The same, and the code to end with.
     ExitCode fail(std::string_view sentence) const;
     ExitCode refuse(std::string_view sentence) const;
 

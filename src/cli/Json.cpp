@@ -6,6 +6,10 @@ namespace tavrik {
 
 namespace {
 
+QString key(const std::string& value) {
+    return QString::fromStdString(value);
+}
+
 QJsonValue text(const std::string& value) {
     return QString::fromStdString(value);
 }
@@ -21,14 +25,33 @@ QJsonArray paths(const std::vector<MacPath>& list) {
     return array;
 }
 
+QJsonArray numbers(const std::set<int>& list) {
+    QJsonArray array;
+    for (const int entry : list)
+        array.append(entry);
+    return array;
+}
+
+template<typename Texts>
+QJsonArray texts(const Texts& list) {
+    QJsonArray array;
+    for (const std::string& entry : list)
+        array.append(text(entry));
+    return array;
+}
+
+std::string plainText(const QJsonDocument& document) {
+    std::string json = document.toJson(QJsonDocument::Indented).toStdString();
+    while (!json.empty() && json.back() == '\n')
+        json.pop_back();
+    return json;
+}
+
 } // namespace
 
 QJsonArray toJson(const std::vector<ApplicationInfo>& apps) {
     QJsonArray array;
     for (const ApplicationInfo& app : apps) {
-        QJsonArray hidden;
-        for (int index : app.hiddenPermanentIndices)
-            hidden.append(index);
         array.append(QJsonObject{
             {QLatin1String("id"), text(app.id)},
             {QLatin1String("name"), text(app.name)},
@@ -39,7 +62,7 @@ QJsonArray toJson(const std::vector<ApplicationInfo>& apps) {
             {QLatin1String("isUnsupportedApp"), app.isUnsupportedApp},
             {QLatin1String("permanentIconPaths"), paths(app.permanentIconPaths)},
             {QLatin1String("pendingAdditionPaths"), paths(app.pendingAdditionPaths)},
-            {QLatin1String("hiddenPermanentIndices"), hidden},
+            {QLatin1String("hiddenPermanentIndices"), numbers(app.hiddenPermanentIndices)},
             {QLatin1String("selectedIconIndex"), app.selectedIconIndex},
             {QLatin1String("themeIcons"), paths(app.themeIcons)},
         });
@@ -71,11 +94,58 @@ QJsonArray toJson(const std::map<std::string, TavrikMapping>& mappings) {
     return array;
 }
 
+QJsonObject toJson(const std::string& bundleID, const IconRow& row) {
+    return {
+        {QLatin1String("bundleID"), text(bundleID)},
+        {QLatin1String("permanentIconPaths"), paths(row.permanentIconPaths)},
+        {QLatin1String("pendingAdditionPaths"), paths(row.pendingAdditionPaths)},
+        {QLatin1String("hiddenPermanentIndices"), numbers(row.hiddenPermanentIndices)},
+        {QLatin1String("selectedIconIndex"), row.selectedIconIndex},
+        {QLatin1String("displayPaths"), paths(row.displayPaths())},
+    };
+}
+
+QJsonObject toJson(const StagedChanges& staged, const std::optional<Date>& timestamp) {
+    QJsonObject changes;
+    for (const auto& [bundleID, change] : staged.pendingChanges) {
+        changes.insert(key(bundleID),
+                       QJsonObject{
+                           {QLatin1String("iconPaths"), paths(change.iconPaths)},
+                           {QLatin1String("selectedIndex"),
+                            change.selectedIndex ? QJsonValue(*change.selectedIndex) : QJsonValue()},
+                       });
+    }
+    QJsonArray hides;
+    for (const ThemeIconHide& hide : staged.pendingThemeIconHides) {
+        hides.append(QJsonObject{
+            {QLatin1String("themeID"), text(hide.themeID)},
+            {QLatin1String("iconFileName"), text(hide.iconFileName)},
+        });
+    }
+    QJsonObject deletions;
+    for (const auto& [themeID, names] : staged.pendingThemeIconDeletions)
+        deletions.insert(key(themeID), texts(names));
+    QJsonObject marked;
+    for (const auto& [bundleID, indices] : staged.markedForDeletion)
+        marked.insert(key(bundleID), numbers(indices));
+    return {
+        {QLatin1String("pendingChanges"), changes},
+        {QLatin1String("pendingThemeIconHides"), hides},
+        {QLatin1String("pendingThemeIconDeletions"), deletions},
+        {QLatin1String("pendingThemeDeletions"), texts(staged.pendingThemeDeletions)},
+        {QLatin1String("markedForDeletion"), marked},
+        {QLatin1String("pendingFont"), staged.pendingFont ? text(*staged.pendingFont) : QJsonValue()},
+        {QLatin1String("pendingReset"), staged.pendingReset},
+        {QLatin1String("timestamp"), timestamp ? text(isoText(*timestamp)) : QJsonValue()},
+    };
+}
+
 std::string jsonText(const QJsonArray& array) {
-    std::string json = QJsonDocument(array).toJson(QJsonDocument::Indented).toStdString();
-    while (!json.empty() && json.back() == '\n')
-        json.pop_back();
-    return json;
+    return plainText(QJsonDocument(array));
+}
+
+std::string jsonText(const QJsonObject& object) {
+    return plainText(QJsonDocument(object));
 }
 
 } // namespace tavrik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "changes/IconRow.h"
+#include "changes/StagedChanges.h"
 #include "model/ApplicationInfo.h"
 #include "model/SettingsRecords.h"
 #include "system/DockManager.h"
@@ -8,6 +10,7 @@
 #include <QJsonObject>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +24,12 @@ QJsonArray toJson(const std::vector<DockApp>& apps);
 /// Each with its "bundleID".
 QJsonArray toJson(const std::map<std::string, TavrikMapping>& mappings);
 
+/// With its "bundleID", and with "displayPaths".
+QJsonObject toJson(const std::string& bundleID, const IconRow& row);
+/// With its "timestamp". What is not there is null.
+QJsonObject toJson(const StagedChanges& staged, const std::optional<Date>& timestamp);
+
 std::string jsonText(const QJsonArray& array);
+std::string jsonText(const QJsonObject& object);
 
 } // namespace tavrik

@@ -3,13 +3,18 @@
 #include "platform/ChildProcess.h"
 #include "platform/practice/Layout.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
+#include <cstring>
+#include <thread>
+
+extern char** environ;
 
 namespace tavrik::test {
 
@@ -28,7 +33,7 @@ RunningCompanion::~RunningCompanion() {
 
 ToolResult RunningCompanion::run(const std::vector<std::string>& arguments) const {
     const auto result =
-        runChild(HostPath(TAVRIKCTL), arguments, {.time = std::chrono::seconds(100), .outputBytes = 8u << 20});
+        runChild(HostPath(TAVRIKCTL), arguments, {.time = std::chrono::seconds(100), .outputBytes = 32u << 20});
     if (!result) {
         ADD_FAILURE() << result.error().description;
         return {.exitStatus = -1, .output = {}, .errors = {}};
@@ -37,12 +42,50 @@ ToolResult RunningCompanion::run(const std::vector<std::string>& arguments) cons
 }
 
 QJsonArray RunningCompanion::json(const std::vector<std::string>& arguments) const {
+    const QJsonDocument answer = document(arguments);
+    EXPECT_TRUE(answer.isArray());
+    return answer.array();
+}
+
+QJsonObject RunningCompanion::object(const std::vector<std::string>& arguments) const {
+    const QJsonDocument answer = document(arguments);
+    EXPECT_TRUE(answer.isObject());
+    return answer.object();
+}
+
+QJsonDocument RunningCompanion::document(const std::vector<std::string>& arguments) const {
     const ToolResult result = run(arguments);
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
     QJsonParseError error;
-    const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(result.output), &error);
-    EXPECT_TRUE(document.isArray()) << error.errorString().toStdString() << "\n" << result.output;
-    return document.array();
+    auto answer = QJsonDocument::fromJson(QByteArray::fromStdString(result.output), &error);
+    EXPECT_FALSE(answer.isNull()) << error.errorString().toStdString() << "\n" << result.output;
+    return answer;
+}
+
+bool RunningCompanion::runAndKill(const std::vector<std::string>& arguments,
+                                  std::chrono::microseconds after) const {
+    std::string program = TAVRIKCTL;
+    std::vector<std::string> texts = arguments;
+    std::vector<char*> pointers{program.data()};
+    for (std::string& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    for (const int output : {STDOUT_FILENO, STDERR_FILENO})
+        ::posix_spawn_file_actions_addopen(&actions, output, "/dev/null", O_WRONLY, 0);
+    pid_t child = 0;
+    const int failed = ::posix_spawn(&child, TAVRIKCTL, &actions, nullptr, pointers.data(), environ);
+    ::posix_spawn_file_actions_destroy(&actions);
+    if (failed != 0) {
+        ADD_FAILURE() << std::strerror(failed);
+        return false;
+    }
+    std::this_thread::sleep_for(after);
+    ::kill(child, SIGKILL);
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    return WIFSIGNALED(status);
 }
 
 HostPath RunningCompanion::root() const {
@@ -60,6 +103,18 @@ HostPath RunningCompanion::picture(const std::string& name, const QImage& image)
     const HostPath file = m_folder.path() / name;
     EXPECT_TRUE(image.save(QString::fromStdString(file.string()))) << file.string();
     return file;
+}
+
+HostPath RunningCompanion::hostPath(const QJsonValue& macPath) const {
+    return root() / macPath.toString().toStdString();
+}
+
+std::string RunningCompanion::readByPython(const MacPath& propertyList) const {
+    constexpr const char* kScript = "import json, plistlib, sys\n"
+                                    "print(json.dumps(plistlib.load(open(sys.argv[1], 'rb')), default=str))";
+    const HostPath file = root() / propertyList.string();
+    const auto result = runChild(HostPath("/usr/bin/python3"), {"-c", kScript, file.string()}, {});
+    return result ? result->output + result->errors : result.error().description;
 }
 
 std::string RunningCompanion::plainApp() const {

@@ -8,7 +8,10 @@
 
 #include <QImage>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -24,6 +27,10 @@ public:
 
     /// The same for a command that answers with JSON alone on standard output.
     QJsonArray json(const std::vector<std::string>& arguments) const;
+    QJsonObject object(const std::vector<std::string>& arguments) const;
+
+    /// Runs it and ends it with SIGKILL when the time has come, unless it was quicker. True when it was killed.
+    bool runAndKill(const std::vector<std::string>& arguments, std::chrono::microseconds after) const;
 
     /// The volume's folder.
     HostPath root() const;
@@ -34,8 +41,14 @@ public:
     /// The same for a picture, in the format of the name's ending.
     HostPath picture(const std::string& name, const QImage& image) const;
 
+    /// Where the host keeps a file of the volume.
+    HostPath hostPath(const QJsonValue& macPath) const;
+
     /// The identifier of an application that can be restyled.
     std::string plainApp() const;
+
+    /// What Python's own reader makes of a property list of the volume: JSON, or its complaint.
+    std::string readByPython(const MacPath& propertyList) const;
 
     /// What a person could lose: both stores, the user's library, the wrapper folder and every application.
     FileTree valuables() const;
@@ -44,6 +57,8 @@ public:
     int livingProcesses() const;
 
 private:
+    QJsonDocument document(const std::vector<std::string>& arguments) const;
+
     TemporaryFolder m_folder;
     std::string m_earlierDataHome;
 };
