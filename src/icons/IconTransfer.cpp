@@ -87,7 +87,7 @@ Result<TransferRecord> IconTransfer::recordOf(const Application& application,
         record.selected = interrupted->selected;
         record.selectedBehind = interrupted->selectedBehind;
     } else if (const auto selected = m_settings.getSelectedIcon(bundleID)) {
-        const auto count = static_cast<std::int64_t>(m_store.listIcons(bundleID).size());
+        const auto count = present->countIn(permanent);
         const MacPath path = permanent / ("icon_" + std::to_string(*selected) + ".png");
         if (present->identity(path))
             record.selected = recorded(path);
@@ -194,7 +194,7 @@ void IconTransfer::abandon() {
         if (!before)
             continue;
         const auto selected = record.selected ? before->recognize(*record.selected, record) : std::nullopt;
-        const auto icons = static_cast<std::int64_t>(m_store.renumber(bundleID).size());
+        m_store.renumber(bundleID);
         const auto after = look(bundleID);
         if (!after)
             continue;
@@ -203,7 +203,7 @@ void IconTransfer::abandon() {
         if (const auto place = after->find(selected))
             number = iconIndex(place->name());
         else if (record.selectedBehind)
-            number = icons + *record.selectedBehind;
+            number = after->countIn(m_store.iconCacheURL() / bundleID) + *record.selectedBehind;
         if (number != m_settings.getSelectedIcon(bundleID))
             m_settings.setSelectedIcon(bundleID, number);
     }

@@ -37,6 +37,10 @@ std::optional<FileIdentity> IconWhereabouts::identity(const MacPath& path) const
     return present == m_identities.end() ? std::nullopt : std::optional(present->second);
 }
 
+std::int64_t IconWhereabouts::countIn(const MacPath& folder) const {
+    return std::ranges::count_if(m_identities, [&](const auto& icon) { return icon.first.parent() == folder; });
+}
+
 std::optional<FileIdentity> IconWhereabouts::recognize(const RecordedIcon& icon,
                                                        const TransferRecord& record) const {
     if (find(icon.identity))

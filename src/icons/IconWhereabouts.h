@@ -24,6 +24,9 @@ public:
     /// Nothing when there is no icon file.
     std::optional<FileIdentity> identity(const MacPath& path) const;
 
+    /// How many there are in one of the two folders.
+    std::int64_t countIn(const MacPath& folder) const;
+
     /// As what a recorded icon is known now. A file that was copied elsewhere and back has another number, so
     /// its path decides, unless another icon of the record stands there.
     std::optional<FileIdentity> recognize(const RecordedIcon& icon, const TransferRecord& record) const;

@@ -73,4 +73,37 @@ TEST_F(AtomicFile, DoesNotRemoveAFolderThatHasTheTemporarysName) {
     EXPECT_TRUE(disk.exists(fresh / "full"));
 }
 
+TEST_F(AtomicFile, MakesANewFileCompleteAndFlushedOrNotAtAll) {
+    const MacPath made{"/made.png"};
+    const FileTree before = treeOf(folder.path());
+    for (std::size_t step = 1; step <= 4; ++step) {
+        files.failAt(step, EIO);
+        EXPECT_EQ(createAtomically(files, made, bytesOf("new")).error().code, EIO);
+        EXPECT_THAT(differences(before, treeOf(folder.path())), ElementsAre()) << "step " << step;
+    }
+    {
+        const SmallDisk full(1000);
+        EXPECT_FALSE(createAtomically(disk, made, Bytes(1001)));
+    }
+    EXPECT_THAT(differences(before, treeOf(folder.path())), ElementsAre());
+
+    ASSERT_TRUE(disk.write(MacPath("/made.png.new"), bytesOf("of a killed one")));
+    files.failNothing();
+    files.forget();
+    ASSERT_TRUE(createAtomically(files, made, bytesOf("new")));
+    EXPECT_EQ(textOf(*disk.read(made)), "new");
+    EXPECT_THAT(files.journal(), testing::IsSupersetOf({"flush /made.png.new", "move /made.png", "flush /"}));
+    EXPECT_THAT(differences(before, treeOf(folder.path())), ElementsAre("+ made.png"));
+}
+
+TEST_F(AtomicFile, NeverMakesANewFileWhereAnythingIs) {
+    const MacPath link{"/link.plist"};
+    ASSERT_TRUE(disk.createLink(link, "nowhere"));
+    ASSERT_TRUE(disk.createFolder(MacPath("/folder")));
+    const FileTree before = treeOf(folder.path());
+    for (const MacPath& taken : {file, link, MacPath("/folder")})
+        EXPECT_EQ(createAtomically(files, taken, bytesOf("new")).error().code, EEXIST) << taken.string();
+    EXPECT_THAT(differences(before, treeOf(folder.path())), ElementsAre());
+}
+
 } // namespace tavrik::test
