@@ -204,11 +204,14 @@ std::optional<IconCache::Making> IconCache::drawThumbnails(const MacPath& path) 
     const QImage picture = kept ? *kept : readIcon(path);
     if (picture.isNull())
         return std::nullopt;
+    // The small one is half of the large one, which a square fills wholly: much less to look at than the
+    // picture.
+    const QImage large = drawThumbnail(picture, ThumbnailSize::x2);
+    const QImage small =
+        drawThumbnail(picture.width() == picture.height() ? large : picture, ThumbnailSize::x1);
     Making making;
-    for (const ThumbnailSize size : kSizes) {
-        const QImage image = drawThumbnail(picture, size);
-        making.thumbnails.push_back({size, image, png::encode(image)});
-    }
+    making.thumbnails.push_back({ThumbnailSize::x1, small, png::encode(small)});
+    making.thumbnails.push_back({ThumbnailSize::x2, large, png::encode(large)});
     return making;
 }
 
