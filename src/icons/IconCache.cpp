@@ -60,8 +60,9 @@ QImage IconCache::loadImage(const MacPath& path) {
     std::uint64_t generation = 0;
     if (auto kept = find(m_cache, path, generation))
         return *kept;
-    const QImage image = readIcon(path);
-    return image.isNull() ? image : keep(m_cache, path, image, generation);
+    QImage image = readIcon(path);
+    keep(m_cache, path, image, generation);
+    return image;
 }
 
 void IconCache::loadImage(const MacPath& path, QObject* context,
@@ -105,9 +106,11 @@ QImage IconCache::thumbnail(const MacPath& path, ThumbnailSize size) {
     std::uint64_t generation = 0;
     if (auto kept = find(m_thumbnailCache, place, generation))
         return *kept;
-    if (const QImage read = readThumbnailOf(path, size); !read.isNull())
-        return keep(m_thumbnailCache, place, read, generation);
-    const QImage full = loadImage(path);
+    if (QImage read = readThumbnailOf(path, size); !read.isNull()) {
+        keep(m_thumbnailCache, place, read, generation);
+        return read;
+    }
+    QImage full = loadImage(path);
     if (!full.isNull())
         generateThumbnails(path);
     return full;
@@ -130,8 +133,6 @@ void IconCache::generateThumbnails(const MacPath& path) {
 void IconCache::insert(const MacPath& path, const QImage& image) {
     const std::lock_guard lock(m_cacheLock);
     m_cache.insert(path, image);
-    for (const ThumbnailSize size : kSizes)
-        m_thumbnailCache.remove(thumbnailPath(path, size));
 }
 
 void IconCache::remove(const MacPath& path) {
@@ -158,15 +159,11 @@ std::optional<QImage> IconCache::find(BoundedImageCache& cache, const MacPath& p
     return cache.find(place);
 }
 
-/// What another thread put there meanwhile is at least as new, and is the answer.
-QImage IconCache::keep(BoundedImageCache& cache, const MacPath& place, const QImage& image,
-                       std::uint64_t generation) {
+void IconCache::keep(BoundedImageCache& cache, const MacPath& place, const QImage& image,
+                     std::uint64_t generation) {
     const std::lock_guard lock(m_cacheLock);
-    if (auto kept = cache.find(place))
-        return *kept;
     if (generation == m_generation)
         cache.insert(place, image);
-    return image;
 }
 
 QImage IconCache::readIcon(const MacPath& path) const {

@@ -66,7 +66,7 @@ public:
 
 private:
     std::optional<QImage> find(BoundedImageCache& cache, const MacPath& place, std::uint64_t& generation);
-    QImage keep(BoundedImageCache& cache, const MacPath& place, const QImage& image, std::uint64_t generation);
+    void keep(BoundedImageCache& cache, const MacPath& place, const QImage& image, std::uint64_t generation);
     QImage readIcon(const MacPath& path) const;
     QImage readThumbnailOf(const MacPath& path, ThumbnailSize size) const;
 

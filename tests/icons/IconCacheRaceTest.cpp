@@ -47,15 +47,18 @@ private:
 class IconCacheRaceTest : public testing::Test {
 protected:
     /// The red icon 0 goes, and the green icon 1 becomes icon 0, in the order that the store keeps to.
-    void removeFirst(IconCache& cache) {
-        ignoreFailure(raw.remove(folder.icon(0)));
+    void removeFirst(IconCache& cache) { removeFirst(cache, raw); }
+
+    void removeFirst(IconCache& cache, FileManager& files) {
+        ignoreFailure(files.remove(folder.icon(0)));
         cache.remove(folder.icon(0));
         for (const ThumbnailSize size : {ThumbnailSize::x1, ThumbnailSize::x2})
-            ignoreFailure(raw.remove(thumbnailPath(folder.icon(0), size)));
-        ignoreFailure(raw.move(folder.icon(1), folder.icon(0)));
+            ignoreFailure(files.remove(thumbnailPath(folder.icon(0), size)));
+        ignoreFailure(files.move(folder.icon(1), folder.icon(0)));
         cache.remove(folder.icon(1));
         for (const ThumbnailSize size : {ThumbnailSize::x1, ThumbnailSize::x2})
-            ignoreFailure(raw.move(thumbnailPath(folder.icon(1), size), thumbnailPath(folder.icon(0), size)));
+            ignoreFailure(
+                files.replace(thumbnailPath(folder.icon(0), size), thumbnailPath(folder.icon(1), size)));
     }
 
     void putBoth(bool withThumbnails) {
@@ -84,48 +87,82 @@ protected:
         EXPECT_TRUE(cache.loadImage(folder.icon(1)).isNull());
     }
 
-    const QImage red = IconFolder::picture(Qt::red);
-    const QImage green = IconFolder::picture(Qt::green);
+    using Reading = std::function<void(IconCache&)>;
+    /// One run: stops at the moment of that number, and says whether there was one.
+    using Run = std::function<bool(const Reading&, int moment)>;
+
+    /// Every reading of both icons, with and without thumbnail files, at every moment of the run.
+    void sweep(const Run& run, int leastMoments) {
+        const std::map<std::string, std::function<void(IconCache&, const MacPath&)>> readings{
+            {"load", [](IconCache& cache, const MacPath& icon) { cache.loadImage(icon); }},
+            {"thumbnail",
+             [](IconCache& cache, const MacPath& icon) { cache.thumbnail(icon, ThumbnailSize::x1); }},
+            {"generate", [](IconCache& cache, const MacPath& icon) { cache.generateThumbnails(icon); }},
+        };
+        int moments = 0;
+        for (const auto& [what, reading] : readings) {
+            for (const int index : {0, 1}) {
+                for (const bool withThumbnails : {false, true}) {
+                    for (int moment = 1;; ++moment, ++moments) {
+                        SCOPED_TRACE(what + " of " + std::to_string(index) +
+                                     (withThumbnails ? " made" : " unmade") + " at moment " +
+                                     std::to_string(moment));
+                        putBoth(withThumbnails);
+                        const auto read = [&](IconCache& cache) {
+                            reading(cache, folder.icon(index));
+                            cache.waitForThumbnails();
+                        };
+                        if (!run(read, moment))
+                            break;
+                    }
+                }
+            }
+        }
+        EXPECT_GE(moments, leastMoments);
+    }
+
+    const QImage red = IconFolder::picture(Qt::red, {200, 200});
+    const QImage green = IconFolder::picture(Qt::green, {200, 200});
     SmallMac small;
     FileManager& raw = small.practice.mac().files;
     IconFolder folder{raw};
 };
 
 TEST_F(IconCacheRaceTest, NothingStaleOutlivesARemovalAtAnyMomentOfAReadingOrMaking) {
-    const std::map<std::string, std::function<void(IconCache&, const MacPath&)>> readings{
-        {"load", [](IconCache& cache, const MacPath& icon) { cache.loadImage(icon); }},
-        {"thumbnail", [](IconCache& cache, const MacPath& icon) { cache.thumbnail(icon, ThumbnailSize::x1); }},
-        {"generate", [](IconCache& cache, const MacPath& icon) { cache.generateThumbnails(icon); }},
+    const auto run = [this](const Reading& read, int moment) {
+        WatchedFiles files(raw);
+        IconCache cache(files);
+        std::future<void> removal;
+        files.at(moment, [&] {
+            removal = std::async(std::launch::async, [&] {
+                removeFirst(cache);
+                cache.generateThumbnails(folder.icon(0)); // beside the making that is under way for the red one
+            });
+            // In the middle of a commit it has to wait for the end of that.
+            removal.wait_for(std::chrono::milliseconds(30));
+        });
+        read(cache);
+        if (!files.hasRun())
+            return false;
+        removal.get();
+        expectOnlyGreen(cache);
+        return true;
     };
-    int moments = 0;
-    for (const auto& [what, reading] : readings) {
-        for (const int index : {0, 1}) {
-            for (const bool withThumbnails : {false, true}) {
-                for (int moment = 1;; ++moment) {
-                    SCOPED_TRACE(what + " of " + std::to_string(index) +
-                                 (withThumbnails ? " made" : " unmade") + " at moment " +
-                                 std::to_string(moment));
-                    putBoth(withThumbnails);
-                    WatchedFiles files(raw);
-                    IconCache cache(files);
-                    std::future<void> removal;
-                    files.at(moment, [&] {
-                        removal = std::async(std::launch::async, [&] { removeFirst(cache); });
-                        // In the middle of a commit it has to wait for the end of that.
-                        removal.wait_for(std::chrono::milliseconds(30));
-                    });
-                    reading(cache, folder.icon(index));
-                    cache.waitForThumbnails();
-                    if (!files.hasRun())
-                        break;
-                    removal.get();
-                    expectOnlyGreen(cache);
-                    ++moments;
-                }
-            }
-        }
-    }
-    EXPECT_GT(moments, 50);
+    sweep(run, 50);
+}
+
+TEST_F(IconCacheRaceTest, NothingStaleComesInAtAnyMomentOfARemoval) {
+    const auto run = [this](const Reading& read, int moment) {
+        WatchedFiles files(raw);
+        IconCache cache(raw);
+        read(cache);
+        files.at(moment, [&] { read(cache); });
+        removeFirst(cache, files);
+        if (files.hasRun())
+            expectOnlyGreen(cache);
+        return files.hasRun();
+    };
+    sweep(run, 50);
 }
 
 TEST_F(IconCacheRaceTest, ManyThreadsSeeAnIconAndNeverAStrangeOne) {

@@ -11,6 +11,7 @@
 #include <future>
 #include <map>
 #include <memory>
+#include <thread>
 
 namespace tavrik::test {
 namespace {
@@ -175,12 +176,35 @@ TEST_F(IconCacheTest, DrawsFromMemoryAndOncePerIconAtATime) {
     cache.waitForThumbnails();
     small.files.failNothing();
     EXPECT_EQ(log.count("✅ Thumbnails created at: " + folder.icon(0).string()), 1u);
+    EXPECT_THAT(small.files.journal(), Contains("exists " + folder.icon(0).string()).Times(1));
     EXPECT_THAT(small.files.journal(), Not(Contains(HasSubstr("read "))));
     EXPECT_EQ(colourOf(cache.thumbnail(folder.icon(0), ThumbnailSize::x2)), QColor(Qt::green));
 
     cache.generateThumbnails(folder.icon(7));
     cache.waitForThumbnails();
     EXPECT_TRUE(log.has("IconCache: Original file doesn't exist at " + folder.icon(7).string()));
+}
+
+TEST_F(IconCacheTest, EndsWithoutWorkingOffWhatIsQueued) {
+    std::promise<void> leaving;
+    small.files.setRule([&, first = std::make_shared<std::once_flag>()](const FileOperation&) {
+        std::call_once(*first, [&] {
+            leaving.get_future().wait();
+            std::this_thread::sleep_for(std::chrono::milliseconds(200)); // until the end has begun
+        });
+        return std::nullopt;
+    });
+    QObject context;
+    {
+        IconCache ending(small.files);
+        for (int i = 0; i < 500; ++i) {
+            ending.generateThumbnails(folder.icon(i));
+            ending.loadImage(folder.icon(i), &context, [](const QImage&) {});
+        }
+        leaving.set_value();
+    }
+    EXPECT_LT(small.files.count(), 500u);
+    small.files.failNothing();
 }
 
 } // namespace
