@@ -7,6 +7,7 @@
 #include "platform/Mac.h"
 #include "platform/Volume.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tavrik {
@@ -16,6 +17,7 @@ namespace {
 constexpr const char* kMappings = "TavrikMappings";
 constexpr const char* kSelectedIcons = "SelectedIcons";
 constexpr const char* kFontState = "CurrentFontState";
+constexpr const char* kUnfinishedFontChange = "UnfinishedFontChange";
 constexpr const char* kFolderBackups = "FolderBackups";
 constexpr const char* kDockBookmarks = "DockBookmarks";
 constexpr const char* kIconShapes = "IconShapeCache";
@@ -36,6 +38,30 @@ std::optional<RowID> folderOf(std::string_view key) {
     if (error != std::errc() || stopped != end)
         return std::nullopt;
     return RowID{number};
+}
+
+void putFontState(plist::Dictionary& root, const std::optional<FontState>& state, Date now) {
+    if (state)
+        root[kFontState] = settings::encode(FontState{state->fontName, state->isMultiCase, now});
+    else
+        root.erase(kFontState);
+}
+
+std::optional<FontState> fontStateIn(const plist::Dictionary& root) {
+    const auto found = root.find(kFontState);
+    return found == root.end() ? std::nullopt : settings::decode<FontState>(found->second);
+}
+
+std::vector<std::string> unfinishedStylesIn(const plist::Dictionary& root) {
+    std::vector<std::string> styles;
+    const auto found = root.find(kUnfinishedFontChange);
+    const auto* entries = found == root.end() ? nullptr : found->second.as<plist::Array>();
+    if (!entries)
+        return styles;
+    for (const plist::Value& entry : *entries)
+        if (const auto* style = entry.as<std::string>())
+            styles.push_back(*style);
+    return styles;
 }
 
 } // namespace
@@ -142,17 +168,38 @@ std::optional<std::int64_t> SettingsManager::getSelectedIcon(const std::string& 
 
 void SettingsManager::setCurrentFontState(const std::optional<FontState>& state) {
     m_store.change([&](plist::Dictionary& root) {
-        if (state)
-            root[kFontState] = settings::encode(FontState{state->fontName, state->isMultiCase, m_clock.now()});
-        else
-            root.erase(kFontState);
+        putFontState(root, state, m_clock.now());
+        root.erase(kUnfinishedFontChange);
     });
 }
 
 std::optional<FontState> SettingsManager::getCurrentFontState() {
-    const auto root = m_store.snapshot();
-    const auto found = root->find(kFontState);
-    return found == root->end() ? std::nullopt : settings::decode<FontState>(found->second);
+    return fontStateIn(*m_store.snapshot());
+}
+
+bool SettingsManager::beginFontChange(const std::optional<FontState>& state) {
+    const auto saved = m_store.change([&](plist::Dictionary& root) {
+        std::vector<std::string> shown = unfinishedStylesIn(root);
+        const auto current = fontStateIn(root);
+        std::string style = current ? current->fontName : std::string();
+        if (std::ranges::find(shown, style) == shown.end())
+            shown.push_back(std::move(style));
+        root[kUnfinishedFontChange] = plist::Array(shown.begin(), shown.end());
+        putFontState(root, state, m_clock.now());
+    });
+    return saved == SettingsStore::Saved::yes;
+}
+
+std::vector<std::string> SettingsManager::getUnfinishedFontChange() {
+    return unfinishedStylesIn(*m_store.snapshot());
+}
+
+void SettingsManager::endFontChange() {
+    m_store.change([](plist::Dictionary& root) {
+        root.erase(kUnfinishedFontChange);
+        // Settings without any key are never written.
+        ensureDictionaryAt(root, kFolderBackups);
+    });
 }
 
 // Folder titles
@@ -160,19 +207,28 @@ std::optional<FontState> SettingsManager::getCurrentFontState() {
 void SettingsManager::saveFolderBackup(RowID folderID, const std::optional<std::string>& original,
                                        const std::optional<std::string>& lastGood,
                                        const std::optional<std::string>& lastGoodFont) {
-    m_store.changeEntries(kFolderBackups, [&](plist::Dictionary& all) {
-        plist::Dictionary& backup = ensureDictionaryAt(all, folderKey(folderID));
-        if (original) {
-            backup["original"] = *original;
-            backup["originalDate"] = m_clock.now();
-        }
-        if (lastGood) {
-            backup["lastGood"] = *lastGood;
-            backup["lastGoodDate"] = m_clock.now();
-            if (lastGoodFont)
-                backup["lastGoodFont"] = *lastGoodFont;
+    ignoreFailure(saveFolderBackups({{folderID, {original, {}, lastGood, {}, lastGoodFont}}}));
+}
+
+bool SettingsManager::saveFolderBackups(const std::map<RowID, FolderBackup>& backups) {
+    if (backups.empty())
+        return true;
+    const auto saved = m_store.changeEntries(kFolderBackups, [&](plist::Dictionary& all) {
+        for (const auto& [folderID, given] : backups) {
+            plist::Dictionary& backup = ensureDictionaryAt(all, folderKey(folderID));
+            if (given.original) {
+                backup["original"] = *given.original;
+                backup["originalDate"] = m_clock.now();
+            }
+            if (given.lastGood) {
+                backup["lastGood"] = *given.lastGood;
+                backup["lastGoodDate"] = m_clock.now();
+                if (given.lastGoodFont)
+                    backup["lastGoodFont"] = *given.lastGoodFont;
+            }
         }
     });
+    return saved == SettingsStore::Saved::yes;
 }
 
 std::optional<FolderBackup> SettingsManager::getFolderBackup(RowID folderID) {
@@ -189,7 +245,19 @@ std::map<RowID, FolderBackup> SettingsManager::getAllFolderBackups() {
 }
 
 void SettingsManager::removeFolderBackup(RowID folderID) {
-    removeEntry(folderKey(folderID), kFolderBackups);
+    removeFolderBackups({folderID});
+}
+
+void SettingsManager::removeFolderBackups(const std::vector<RowID>& folderIDs) {
+    if (folderIDs.empty())
+        return;
+    m_store.change([&](plist::Dictionary& root) {
+        if (!dictionaryAt(root, kFolderBackups))
+            return;
+        plist::Dictionary& all = ensureDictionaryAt(root, kFolderBackups);
+        for (const RowID folderID : folderIDs)
+            all.erase(folderKey(folderID));
+    });
 }
 
 // Dock bookmarks

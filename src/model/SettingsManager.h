@@ -65,17 +65,31 @@ public:
     void setSelectedIcon(const std::string& bundleID, std::optional<std::int64_t> index);
     std::optional<std::int64_t> getSelectedIcon(const std::string& bundleID);
 
-    /// `appliedDate` is set to now. Nothing removes the key.
+    /// `appliedDate` is set to now. Nothing removes the key. For when the titles show this style already: a
+    /// change of style that was under way is forgotten.
     void setCurrentFontState(const std::optional<FontState>& state);
     std::optional<FontState> getCurrentFontState();
+
+    /// Records the style before the titles are changed to it, as `setCurrentFontState` does, and in the same
+    /// write notes the style that they show until then. Returns true when both are on disk.
+    [[nodiscard]] bool beginFontChange(const std::optional<FontState>& state);
+    /// The styles that titles may still show beside the current one, the oldest first; plain text is "". Empty
+    /// unless a change began and did not end: it was killed, or the titles could not be written.
+    std::vector<std::string> getUnfinishedFontChange();
+    void endFontChange();
 
     /// A merge: what is not given keeps its stored value. `lastGoodFont` counts only together with `lastGood`.
     void saveFolderBackup(RowID folderID, const std::optional<std::string>& original,
                           const std::optional<std::string>& lastGood,
                           const std::optional<std::string>& lastGoodFont);
+    /// The same for many in one write of the file; the dates of the records are not read. Returns true when
+    /// they are on disk; nothing is written when there are none.
+    [[nodiscard]] bool saveFolderBackups(const std::map<RowID, FolderBackup>& backups);
     std::optional<FolderBackup> getFolderBackup(RowID folderID);
     std::map<RowID, FolderBackup> getAllFolderBackups();
     void removeFolderBackup(RowID folderID);
+    /// The same for many in one write of the file; nothing is written when there are none.
+    void removeFolderBackups(const std::vector<RowID>& folderIDs);
 
     void saveDockBookmark(const DockBookmark& bookmark);
     std::optional<DockBookmark> getDockBookmark(const std::string& bundleID);

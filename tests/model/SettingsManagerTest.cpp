@@ -87,6 +87,29 @@ TEST_F(SettingsManagerTest, RefusesToWriteNothing) {
     EXPECT_EQ(settings.getCurrentFontState(), (FontState{"Mathematical Bold", true, small.clock.now()}));
 }
 
+TEST_F(SettingsManagerTest, RemembersWhatTitlesShowUntilAChangeOfFontEnds) {
+    const auto style = [](const char* name) { return FontState{name, true, {}}; };
+    EXPECT_TRUE(settings.beginFontChange(style("One")));
+    settings.endFontChange();
+    EXPECT_TRUE(settings.beginFontChange(style("Two")));
+    EXPECT_TRUE(settings.beginFontChange(std::nullopt));
+    EXPECT_TRUE(settings.beginFontChange(style("One")));
+    EXPECT_TRUE(settings.beginFontChange(style("Three")));
+    EXPECT_THAT(settings.getUnfinishedFontChange(), ElementsAre("One", "Two", ""));
+    EXPECT_EQ(settings.getCurrentFontState()->fontName, "Three");
+
+    // Even where nothing else is in the file.
+    EXPECT_TRUE(settings.beginFontChange(std::nullopt));
+    settings.endFontChange();
+    EXPECT_TRUE(settings.getUnfinishedFontChange().empty());
+    EXPECT_FALSE(settings.getCurrentFontState());
+
+    small.files.failOn("replace", {}, EROFS);
+    EXPECT_FALSE(settings.beginFontChange(style("Four")));
+    EXPECT_FALSE(settings.saveFolderBackups({{RowID{1}, {"A", {}, "A", {}, {}}}}));
+    EXPECT_FALSE(settings.getCurrentFontState());
+}
+
 TEST_F(SettingsManagerTest, MergesFolderBackups) {
     const RowID folder{-7};
     const Date first = small.clock.now();
@@ -97,6 +120,17 @@ TEST_F(SettingsManagerTest, MergesFolderBackups) {
     const FolderBackup expected{"Games", first, "X", small.clock.now(), "Fraktur"};
     EXPECT_EQ(settings.getFolderBackup(folder), expected);
     EXPECT_THAT(settings.getAllFolderBackups(), ElementsAre(std::pair(folder, expected)));
+
+    small.files.forget();
+    EXPECT_TRUE(
+        settings.saveFolderBackups({{folder, {{}, {}, "Y", {}, {}}}, {RowID{8}, {"B", {}, "B", {}, {}}}}));
+    settings.removeFolderBackups({RowID{8}, RowID{9}});
+    EXPECT_THAT(
+        settings.getAllFolderBackups(),
+        ElementsAre(std::pair(folder, FolderBackup{"Games", first, "Y", small.clock.now(), "Fraktur"})));
+    const auto journal = small.files.journal();
+    EXPECT_EQ(std::ranges::count_if(journal, [](const auto& line) { return line.starts_with("replace"); }), 2)
+        << "one write for all";
 }
 
 TEST_F(SettingsManagerTest, ReadsAWrongTypeAsNone) {
