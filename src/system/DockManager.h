@@ -31,6 +31,8 @@ class DockManager {
 public:
     DockManager(Mac& mac, SettingsManager& settings);
 
+    const MacPath& dockPlistPath() const { return m_plistPath; }
+
     /// Points the tile at the wrapper and notifies the Dock. The tile's first bookmark is saved in the settings
     /// and never replaced; it is kept on failure. False when the wrapper is missing, no tile matches, or the
     /// file cannot be read or written.

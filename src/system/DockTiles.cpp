@@ -9,11 +9,29 @@ namespace tavrik::dock {
 namespace {
 
 constexpr const char* kModified = "file-mod-date";
+constexpr const char* kLabel = "file-label";
 
 template<typename T>
 const T* entry(const plist::Dictionary& data, std::string_view key) {
     const auto found = data.find(key);
     return found == data.end() ? nullptr : found->second.as<T>();
+}
+
+/// The tiles of "persistent-apps" that are wanted, in Dock order.
+template<typename Predicate>
+std::vector<Tile> tilesThat(plist::Value& preferences, Predicate isWanted) {
+    std::vector<Tile> tiles;
+    plist::Value* apps = preferences.find("persistent-apps");
+    if (!apps || !apps->as<plist::Array>())
+        return tiles;
+    for (plist::Value& app : *apps->as<plist::Array>()) {
+        plist::Value* data = app.find("tile-data");
+        if (!data || !data->as<plist::Dictionary>())
+            continue;
+        if (const Tile tile(*data->as<plist::Dictionary>()); isWanted(tile))
+            tiles.push_back(tile);
+    }
+    return tiles;
 }
 
 } // namespace
@@ -29,6 +47,15 @@ const Bytes* Tile::bookmark() const {
 const plist::Value* Tile::modified() const {
     const auto found = m_data->find(kModified);
     return found == m_data->end() ? nullptr : &found->second;
+}
+
+const std::string* Tile::label() const {
+    return entry<std::string>(*m_data, kLabel);
+}
+
+const std::string* Tile::url() const {
+    const auto* fileData = entry<plist::Dictionary>(*m_data, "file-data");
+    return fileData ? entry<std::string>(*fileData, "_CFURLString") : nullptr;
 }
 
 void Tile::setBookmark(const Bytes& bookmark) {
@@ -50,19 +77,16 @@ void Tile::setModified(const plist::Value& recorded) {
     m_data->insert_or_assign(kModified, recorded);
 }
 
+void Tile::setLabel(std::string_view label) {
+    m_data->insert_or_assign(kLabel, plist::Value(label));
+}
+
 std::vector<Tile> appTiles(plist::Value& preferences) {
-    std::vector<Tile> tiles;
-    plist::Value* apps = preferences.find("persistent-apps");
-    if (!apps || !apps->as<plist::Array>())
-        return tiles;
-    for (plist::Value& app : *apps->as<plist::Array>()) {
-        plist::Value* data = app.find("tile-data");
-        if (!data || !data->as<plist::Dictionary>())
-            continue;
-        if (const Tile tile(*data->as<plist::Dictionary>()); tile.bundleID())
-            tiles.push_back(tile);
-    }
-    return tiles;
+    return tilesThat(preferences, [](const Tile& tile) { return tile.bundleID() != nullptr; });
+}
+
+std::vector<Tile> labelledTiles(plist::Value& preferences) {
+    return tilesThat(preferences, [](const Tile& tile) { return tile.url() && tile.label(); });
 }
 
 Tile findTile(plist::Value& preferences, std::string_view bundleID) {

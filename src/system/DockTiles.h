@@ -28,6 +28,8 @@ public:
     const std::string* bundleID() const;
     const Bytes* bookmark() const;
     const plist::Value* modified() const; ///< of any type
+    const std::string* label() const;
+    const std::string* url() const;
 
     void setBookmark(const Bytes& bookmark);
     /// Makes the tile's "file-data" when it has none.
@@ -36,6 +38,7 @@ public:
     void setModified(Date date);
     /// As `modified` gave it.
     void setModified(const plist::Value& recorded);
+    void setLabel(std::string_view label);
 
 private:
     plist::Dictionary* m_data = nullptr;
@@ -44,7 +47,10 @@ private:
 /// The tiles of "persistent-apps" that carry a bundle identifier, in Dock order.
 std::vector<Tile> appTiles(plist::Value& preferences);
 
-/// The first of them with this identifier, else none.
+/// The tiles of "persistent-apps" that carry a URL and a label, with or without an identifier, in Dock order.
+std::vector<Tile> labelledTiles(plist::Value& preferences);
+
+/// The first application tile with this identifier, else none.
 Tile findTile(plist::Value& preferences, std::string_view bundleID);
 
 /// Adds one to "mod-count" when that is an integer.
