@@ -12,6 +12,7 @@ Managers::Managers(Mac& mac)
       launchpad(mac, dock),
       iconSettings(mac),
       wrappers(mac, settings, launchpadDatabase, dock, icons, launchpad, iconSettings),
+      fonts(mac, settings, launchpadDatabase, dock),
       iconCache(mac.files),
       iconStore(mac.files, settings, iconCache),
       hiddenThemeIcons(mac.defaults),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "changes/PendingChangesManager.h"
+#include "fonts/FontManager.h"
 #include "icons/HiddenThemeIcons.h"
 #include "icons/IconCache.h"
 #include "icons/IconStore.h"
@@ -32,6 +33,7 @@ struct Managers {
     LaunchpadManager launchpad;
     IconSettingsManager iconSettings;
     TavrikAppManager wrappers;
+    FontManager fonts;
     IconCache iconCache;
     IconStore iconStore;
     HiddenThemeIcons hiddenThemeIcons;

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "fonts/FolderNames.h"
 #include "fonts/FontReplacer.h"
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace tavrik {
 
 class DatabaseManager;
 class DockManager;
+class LaunchpadTitles;
 class SettingsManager;
 struct Mac;
 
@@ -17,8 +21,9 @@ struct Mac;
 ///
 /// Synchronous, with deliberate waits; background thread only. No error reaches the caller: each is logged and
 /// the next target goes on. The style is recorded in the settings before any title is touched, so that after a
-/// failure or a kill a repeat with the recorded style finishes the work. The row updates of one pass stand in
-/// one transaction: a kill leaves a pass whole or undone.
+/// failure or a kill a repeat with the recorded style finishes the work; until the folders' titles are written,
+/// what they show instead stays noted beside it. A style that cannot be recorded is not applied. The row
+/// updates of one pass stand in one transaction: a kill leaves a pass whole or undone.
 class FontManager {
 public:
     FontManager(Mac& mac, SettingsManager& settings, DatabaseManager& database, DockManager& dock);
@@ -30,6 +35,10 @@ public:
     void resetAllFonts();
 
 private:
+    [[nodiscard]] bool begin(const TitleStyle& style);
+    std::vector<TitleStyle> shownStyles() const;
+    void changeLaunchpad(const std::function<void(LaunchpadTitles&)>& change);
+
     const FontReplacer m_fontReplacer;
     Mac& m_mac;
     SettingsManager& m_settings;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Path.h"
+
+#include <string>
+#include <string_view>
+
+namespace tavrik {
+
+class FontReplacer;
+
+/// The shown name of a bundle: its file name without ".app".
+std::string bundleName(const MacPath& bundle);
+
+/// The plain name of a Dock tile. A wrapper's is its file name, which is the original application's; any
+/// other's is its label in plain text. Where the label is written in a style without small letters its capitals
+/// are gone: they are taken from the bundle's file name if that is the same name.
+std::string plainLabel(const std::string& label, const std::string& url, const FontReplacer& replacer);
+
+/// Whether two names differ in nothing but the case of their letters.
+bool isSameIgnoringCase(std::string_view one, std::string_view other);
+
+} // namespace tavrik
