@@ -87,11 +87,16 @@ const char* readerName(PictureFormat format) {
     }
 }
 
-/// Decoded size in bytes; four a pixel where the reader does not say.
-std::size_t decodedBytes(QSize size, QImage::Format format) {
-    const int bits = format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
-    return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()) *
-           static_cast<std::size_t>(std::max(bits, 32)) / 8;
+bool isTooLarge(QSize size, int bitsPerPixel) {
+    const std::size_t pixels = static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
+    return std::max(size.width(), size.height()) > kLargestPictureSide ||
+           pixels * static_cast<std::size_t>(bitsPerPixel) / 8 > kLargestPictureBytes;
+}
+
+/// Of a decoded pixel; 32 where the reader does not say.
+int bitsPerPixel(QImage::Format format) {
+    return format == QImage::Format_Invalid ? 32
+                                            : std::max(32, int{QImage::toPixelFormat(format).bitsPerPixel()});
 }
 
 /// Qt refuses pictures above 128 MB unless told otherwise, for the process as a whole.
@@ -116,6 +121,18 @@ void goToLargest(QImageReader& reader) {
     reader.jumpToImage(largest);
 }
 
+/// Without Qt's readers, which look through the folder of their plugins first.
+Result<QImage> readPNG(ByteView data, const Refusal& refusal) {
+    allowLargePictures();
+    const auto extent = png::extent(data);
+    if (!extent)
+        return refusal.damaged();
+    if (isTooLarge(extent->size, extent->bitsPerPixel))
+        return refusal.tooLarge(extent->size);
+    const QImage picture = png::decode(data);
+    return picture.isNull() ? Result<QImage>(refusal.damaged()) : picture;
+}
+
 Result<QImage> readPixels(ByteView data, const QByteArray& format, const Refusal& refusal) {
     allowLargePictures();
     QByteArray bytes = borrowed(data);
@@ -130,10 +147,9 @@ Result<QImage> readPixels(ByteView data, const QByteArray& format, const Refusal
     const QSize size = reader.size();
     if (size.isEmpty())
         return refusal.damaged();
-    if (std::max(size.width(), size.height()) > kLargestPictureSide ||
-        decodedBytes(size, reader.imageFormat()) > kLargestPictureBytes)
+    if (isTooLarge(size, bitsPerPixel(reader.imageFormat())))
         return refusal.tooLarge(size);
-    const QImage picture = format == "png" ? png::decode(data) : reader.read();
+    const QImage picture = reader.read();
     if (picture.isNull())
         return refusal.damaged();
     return picture;
@@ -171,7 +187,8 @@ Result<QImage> readPicture(ByteView data, std::string_view name) {
         return refusal.unknown();
     if (!(format ? holdsWholePicture(data, *format) : holdsWholePicture(data, reader)))
         return refusal.cutShort();
-    const auto picture = readPixels(data, reader, refusal);
+    const auto picture =
+        format == PictureFormat::png ? readPNG(data, refusal) : readPixels(data, reader, refusal);
     return picture ? Result<QImage>(standardised(*picture)) : picture;
 }
 

@@ -113,15 +113,10 @@ bool isJPEG2000(ByteView data) {
 
 /// The size in a PNG's header, when it is one that would be decoded.
 std::optional<QSize> sizeOfPNG(ByteView data) {
-    constexpr std::size_t end = 24; // signature, the first chunk's length and name, width, height
-    if (!isPNG(data) || data.size() < end)
+    const auto extent = png::extent(data);
+    if (!extent || std::max(extent->size.width(), extent->size.height()) > kLargestSide)
         return std::nullopt;
-    const std::uint32_t width = bigEndian(data.subspan(16));
-    const std::uint32_t height = bigEndian(data.subspan(20));
-    constexpr std::uint32_t most = kLargestSide;
-    if (width < 1 || width > most || height < 1 || height > most)
-        return std::nullopt;
-    return QSize(static_cast<int>(width), static_cast<int>(height));
+    return extent->size;
 }
 
 QImage decodePNG(ByteView data) {

@@ -27,8 +27,16 @@ std::size_t pixelBytesOf(std::uint8_t colourType) {
     }
 }
 
+/// What stands behind the signature; nothing without one.
+std::optional<ByteView> chunksOf(ByteView data) {
+    if (data.size() < std::size(kSignature) ||
+        !std::ranges::equal(kSignature, data.first(std::size(kSignature))))
+        return std::nullopt;
+    return data.subspan(std::size(kSignature));
+}
+
 /// Nothing when it is no header, or gives no size that a picture can have.
-std::optional<Contents> readHeader(const Chunk& chunk) {
+std::optional<Contents> parseHeader(const Chunk& chunk) {
     constexpr std::size_t headerSize = 13;
     constexpr std::uint32_t most = std::numeric_limits<std::int32_t>::max();
     if (chunk.type != chunkType("IHDR") || !chunk.isIntact || chunk.data.size() != headerSize)
@@ -39,9 +47,9 @@ std::optional<Contents> readHeader(const Chunk& chunk) {
     contents.pixelBytes = pixelBytesOf(chunk.data[9]);
     if (contents.width == 0 || contents.width > most || contents.height == 0 || contents.height > most)
         return std::nullopt;
-    const bool hasEightBits = chunk.data[8] == 8;
+    contents.depth = chunk.data[8];
     const bool isUsual = chunk.data[10] == 0 && chunk.data[11] == 0 && chunk.data[12] == 0; // not interlaced
-    contents.way = hasEightBits && isUsual && contents.pixelBytes > 0 ? Way::quick : Way::qt;
+    contents.way = contents.depth == 8 && isUsual && contents.pixelBytes > 0 ? Way::quick : Way::qt;
     return contents;
 }
 
@@ -80,18 +88,21 @@ private:
 
 } // namespace
 
+std::optional<Contents> readHeader(ByteView data) {
+    const auto chunks = chunksOf(data);
+    const auto first = chunks ? ChunkReader(*chunks).next() : std::nullopt;
+    return first ? parseHeader(*first) : std::nullopt;
+}
+
 Contents survey(ByteView data) {
-    if (data.size() < std::size(kSignature) ||
-        !std::ranges::equal(kSignature, data.first(std::size(kSignature))))
-        return {};
-    ChunkReader reader(data.subspan(std::size(kSignature)));
-    const auto first = reader.next();
-    std::optional<Contents> contents = first ? readHeader(*first) : std::nullopt;
+    std::optional<Contents> contents = readHeader(data);
     if (!contents)
         return {};
+    ChunkReader reader(*chunksOf(data));
+    auto before = reader.next()->type;
     Colours colours;
     bool isInOrder = true;
-    for (auto before = first->type;;) {
+    for (;;) {
         const auto chunk = reader.next();
         if (!chunk || (chunk->isCritical() && !chunk->isIntact))
             return {};

@@ -138,6 +138,14 @@ QImage decodeByQt(ByteView data) {
 
 } // namespace
 
+std::optional<Extent> extent(ByteView data) {
+    const auto header = readHeader(data);
+    if (!header)
+        return std::nullopt;
+    return Extent{{static_cast<int>(header->width), static_cast<int>(header->height)},
+                  header->depth == 16 ? 64 : 32};
+}
+
 QImage decode(ByteView data) {
     const Contents contents = survey(data);
     switch (contents.way) {

@@ -1,7 +1,6 @@
 #include "platform/PngFilter.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace tavrik::png {

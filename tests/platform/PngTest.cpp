@@ -203,7 +203,7 @@ TEST(Png, RefusesRowsThatAreNotWhatTheHeaderSays) {
     }
 }
 
-TEST(Png, TakesNoMemoryForAPictureThatTheDataCannotHold) {
+TEST(Png, RefusesSizesThatTheDataOrTheLimitCannotHold) {
     const int limit = QImageReader::allocationLimit();
     const Bytes wide = *encode(anyPicture(1000, 300, 255)); // 1.2 MB
     for (const int megabytes : {0, 1, 2}) {
