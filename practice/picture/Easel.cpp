@@ -47,10 +47,12 @@ void Easel::note(Spot spot, const QPointF& corner, double size) {
 }
 
 void Easel::drawTitle(const QRectF& space, const std::string& text, const QFont& font) {
-    const QString line = QFontMetricsF(font).elidedText(singleLine(text), Qt::ElideRight, space.width());
-    m_painter.setFont(font);
+    const QString title = singleLine(text);
+    const QFont titleFont = Look::fontFor(title, font);
+    m_painter.setFont(titleFont);
     m_painter.setPen(m_look.title);
-    m_painter.drawText(space, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextSingleLine, line);
+    m_painter.drawText(space, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextSingleLine,
+                       QFontMetricsF(titleFont).elidedText(title, Qt::ElideRight, space.width()));
 }
 
 void Easel::drawText(const QPointF& baseline, const QString& text, const QFont& font, const QColor& colour) {

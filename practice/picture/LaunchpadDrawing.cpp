@@ -162,11 +162,11 @@ void FoldersDrawing::drawPanel(Easel& easel, const Panel& panel, double top) con
     const std::string name = folder.title.empty() ? "Folder without a title" : "Folder: " + folder.title;
     const QRectF bounds = panel.bounds.translated(0, top);
     const QString heading = QString::fromStdString(name);
-    easel.drawText({bounds.left() + 24, bounds.top() + 24}, heading, look.headingFont, look.title);
-    easel.drawText({bounds.left() + 24 + QFontMetricsF(look.headingFont).horizontalAdvance(heading) + 10,
-                    bounds.top() + 24},
-                   QStringLiteral("page %1, place %2").arg(panel.page).arg(panel.place), look.captionFont,
-                   look.caption);
+    const QFont headingFont = Look::fontFor(heading, look.headingFont);
+    easel.drawText({bounds.left() + 24, bounds.top() + 24}, heading, headingFont, look.title);
+    easel.drawText(
+        {bounds.left() + 24 + QFontMetricsF(headingFont).horizontalAdvance(heading) + 10, bounds.top() + 24},
+        QStringLiteral("page %1, place %2").arg(panel.page).arg(panel.place), look.captionFont, look.caption);
     easel.drawPanel(bounds.adjusted(0, kHeading - kHeadingOverlap, 0, 0), 26);
 
     const std::size_t columns = columnsOf(folder);

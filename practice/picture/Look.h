@@ -11,6 +11,10 @@ namespace tavrik::practice {
 struct Look {
     explicit Look(Appearance appearance);
 
+    /// The font for a title that may be written in a styled alphabet: the family that has the whole alphabet
+    /// goes first, so that its letters do not come from several.
+    static QFont fontFor(const QString& title, QFont font);
+
     QColor title;
     QColor caption;
     QColor faint;       ///< lines and dots that only hint
