@@ -2,6 +2,7 @@
 
 #include "fonts/CharacterWalk.h"
 #include "fonts/StyledAlphabets.h"
+#include "platform/Utf8.h"
 
 #include <QString>
 
@@ -61,8 +62,11 @@ FontReplacer::FontReplacer() {
         if (map.digits)
             for (const auto& [plain, styled] : *map.digits)
                 m_allFontCharsToNormal[styled] = plain;
-    for (const auto& [styled, plain] : m_allFontCharsToNormal)
-        m_characters.setPlain(FirstCodePoint(styled).value, plain.front());
+    for (const auto& [styled, plain] : m_allFontCharsToNormal) {
+        std::string_view rest = styled;
+        if (const auto point = takeCodePoint(rest))
+            m_characters.setPlain(*point, plain.front());
+    }
 }
 
 std::optional<std::size_t> FontReplacer::indexOf(std::string_view name) const {
@@ -80,11 +84,11 @@ std::string FontReplacer::convert(std::string_view text, std::string_view fontNa
     const auto index = indexOf(fontName);
     if (!index)
         return std::string(text);
-    return CharacterWalk(m_characters, m_styleTables[*index])(text);
+    return CharacterWalk(text, m_characters, m_styleTables[*index])();
 }
 
 std::string FontReplacer::convertToNormal(std::string_view text) const {
-    return CharacterWalk(m_characters, ToPlain())(text);
+    return CharacterWalk(text, m_characters, ToPlain())();
 }
 
 bool FontReplacer::isMultiCaseFont(std::string_view fontName) const {
