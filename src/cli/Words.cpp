@@ -74,14 +74,17 @@ std::vector<std::string> inWords(const StagedChanges& staged, const AppNames& na
                         ".");
     }
 
-    for (const auto& [themeID, iconFileName] : staged.pendingThemeIconHides)
-        lines.push_back("Theme " + themeID + ": " + iconFileName + " is to be hidden.");
+    const auto addTheme = [&lines](const std::string& themeID, const std::string& what) {
+        lines.push_back("Theme " + themeID + what);
+    };
+    for (const ThemeIconHide& hide : staged.pendingThemeIconHides)
+        addTheme(hide.themeID, ": " + hide.iconFileName + " is to be hidden.");
     for (const auto& [themeID, iconFileNames] : staged.pendingThemeIconDeletions) {
         for (const std::string& name : iconFileNames)
-            lines.push_back("Theme " + themeID + ": " + name + " is to be deleted.");
+            addTheme(themeID, ": " + name + " is to be deleted.");
     }
     for (const std::string& themeID : staged.pendingThemeDeletions)
-        lines.push_back("Theme " + themeID + " is to be deleted.");
+        addTheme(themeID, " is to be deleted.");
     if (staged.pendingFont)
         lines.push_back("Names are to be written in " + *staged.pendingFont + ".");
     if (staged.pendingReset)
