@@ -53,7 +53,13 @@ Result<MacPath> IconStore::safeFolder(const MacPath& base, const std::string& bu
     return folder;
 }
 
+/// Most applications have no icons, and are asked about often: one look is enough for them.
 Result<std::vector<NumberedIcon>> IconStore::icons(const MacPath& base, const std::string& bundleID) const {
+    if (isSafePathComponent(bundleID)) {
+        const auto present = m_files.attributes(base / bundleID, Links::dontFollow);
+        if (!present && present.error().code == ENOENT)
+            return std::vector<NumberedIcon>();
+    }
     const auto folder = safeFolder(base, bundleID);
     if (!folder)
         return folder.error();
