@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace tavrik::test {
 
@@ -192,10 +193,12 @@ TEST_F(IconTransferTest, AnIconThatIsGoneIsNotTakenForTheOneUnderItsName) {
 
 TEST_F(IconTransferTest, WhatFailsStaysAndAFailedDeletionKeepsTheNumbers) {
     ASSERT_TRUE(transfer.begin(staged(program.store)));
+    bool isFirst = true;
     stage.mac.files.setRule([&](const FileOperation& operation) -> std::optional<int> {
-        const bool hit = (operation.name == "remove" && operation.path == stage.permanent / "icon_1.png") ||
-                         (operation.name == "move" && operation.path == stage.permanent / "icon_4.png");
-        return hit ? std::optional(EACCES) : std::nullopt;
+        const bool isDeletion = operation.name == "remove" && operation.path == stage.permanent / "icon_1.png";
+        const bool isTransfer = operation.name == "move" && operation.path == stage.permanent / "icon_4.png";
+        return isDeletion || (isTransfer && std::exchange(isFirst, false)) ? std::optional(EACCES)
+                                                                           : std::nullopt;
     });
     const LogRecorder log;
     const auto places = transfer.run(kAtlas);
@@ -226,11 +229,11 @@ TEST_F(IconTransferTest, ARecordFromElsewhereReachesNoFileOutside) {
         const auto attributes = stage.disk.attributes(path);
         return RecordedIcon{path, FileIdentity{attributes->fileID, attributes->size}};
     };
-    const std::vector<RecordedIcon> foreign{recorded(other), recorded(outside),
-                                            recorded(stage.pending / "icon_4.png")};
+    const MacPath shown = stage.permanent / "icon_0.png";
     TransferRecord record;
-    record.shown = {recorded(other), recorded(outside)};
-    record.marked = foreign;
+    record.shown = {recorded(other), recorded(outside), recorded(shown)};
+    record.marked = {recorded(other), recorded(outside), recorded(stage.pending / "icon_4.png"),
+                     recorded(shown)};
     record.selected = recorded(outside);
     const TransferRecords records{{kAtlas, record}, {"../Themes", record}, {"a/b", record}, {"", record}};
     const MacPath file = stage.support / "PendingChanges/transfer.plist";
@@ -238,7 +241,9 @@ TEST_F(IconTransferTest, ARecordFromElsewhereReachesNoFileOutside) {
 
     ASSERT_TRUE(stage.disk.create(file, *plist::serialize(encodeTransferRecords(records), plist::Format::xml)));
     EXPECT_THAT(transfer.interrupted(), ElementsAre(kAtlas));
-    EXPECT_THAT(transfer.run(kAtlas), ElementsAre(std::nullopt, std::nullopt));
+    const LogRecorder log;
+    EXPECT_THAT(transfer.run(kAtlas), ElementsAre(std::nullopt, std::nullopt, shown));
+    EXPECT_EQ(log.count("Ignoring a recorded icon that is not one of com.example.atlas"), 5u);
     EXPECT_THAT(transfer.run("../Themes"), ElementsAre());
     transfer.abandon();
     transfer.end();
