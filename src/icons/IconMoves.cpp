@@ -8,12 +8,14 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <string_view>
 #include <tuple>
 
 namespace tavrik {
 
 namespace {
 
+constexpr std::string_view kTemporaryPrefix = "temp_";
 constexpr std::array kThumbnailSizes{ThumbnailSize::x1, ThumbnailSize::x2};
 
 Status removeIfPresent(FileManager& files, const MacPath& path) {

@@ -3,7 +3,6 @@
 #include "platform/Path.h"
 #include "platform/Result.h"
 
-#include <string_view>
 #include <vector>
 
 /// Icon files together with what hangs on them, their thumbnail files and what the cache keeps of them. The
@@ -16,14 +15,12 @@ namespace tavrik {
 class FileManager;
 class IconCache;
 
-/// What a renumbering by way of temporary names puts in front of a name.
-inline constexpr std::string_view kTemporaryPrefix = "temp_";
-
 struct NumberedIcon {
     int number = 0;
     MacPath path;
 };
 
+/// Names of a renumbering that went by way of "temp_icon_3.png" and was interrupted.
 enum class Temporaries { skip, include };
 
 /// The icons in a folder by number; where two have the same, the shorter name comes first. None when the folder

@@ -28,6 +28,10 @@ bool isCertain(const RecordedIcon& marked, const TransferRecord& record, const I
                                 [&](const RecordedIcon& icon) { return icon.identity == marked.identity; });
 }
 
+std::optional<FileIdentity> selectedIn(const TransferRecord& record, const IconWhereabouts& now) {
+    return record.selected ? now.recognize(*record.selected, record) : std::nullopt;
+}
+
 } // namespace
 
 IconTransfer::IconTransfer(FileManager& files, SettingsManager& settings, IconStore& store)
@@ -38,11 +42,13 @@ IconTransfer::IconTransfer(FileManager& files, SettingsManager& settings, IconSt
 
 bool IconTransfer::begin(const std::vector<Application>& applications) {
     const Status saved = [&]() -> Status {
-        const TransferRecords interrupted = load();
+        const auto interrupted = read();
+        if (!interrupted)
+            return interrupted.error();
         TransferRecords records;
         for (const Application& application : applications) {
-            const auto earlier = interrupted.find(application.bundleID);
-            auto record = recordOf(application, earlier == interrupted.end() ? nullptr : &earlier->second);
+            const auto earlier = interrupted->find(application.bundleID);
+            auto record = recordOf(application, earlier == interrupted->end() ? nullptr : &earlier->second);
             if (!record)
                 return record.error();
             records.emplace(application.bundleID, std::move(*record));
@@ -130,6 +136,7 @@ IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
     std::vector<std::optional<FileIdentity>> shown;
     for (const RecordedIcon& icon : record.shown)
         shown.push_back(before->recognize(icon, record));
+    const auto selected = selectedIn(record, *before);
 
     // The marked ones go.
     bool allDeleted = true;
@@ -154,6 +161,7 @@ IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
     const auto after = look(bundleID);
     if (!after)
         return {};
+    keepSelection(bundleID, record, selected, *after);
     Places places;
     for (const auto& identity : shown)
         places.push_back(after->find(identity));
@@ -193,20 +201,22 @@ void IconTransfer::abandon() {
         const auto before = look(bundleID);
         if (!before)
             continue;
-        const auto selected = record.selected ? before->recognize(*record.selected, record) : std::nullopt;
+        const auto selected = selectedIn(record, *before);
         m_store.renumber(bundleID);
-        const auto after = look(bundleID);
-        if (!after)
-            continue;
-
-        std::optional<std::int64_t> number;
-        if (const auto place = after->find(selected))
-            number = iconIndex(place->name());
-        else if (record.selectedBehind)
-            number = after->countIn(m_store.iconCacheURL() / bundleID) + *record.selectedBehind;
-        if (number != m_settings.getSelectedIcon(bundleID))
-            m_settings.setSelectedIcon(bundleID, number);
+        if (const auto after = look(bundleID))
+            keepSelection(bundleID, record, selected, *after);
     }
+}
+
+void IconTransfer::keepSelection(const std::string& bundleID, const TransferRecord& record,
+                                 const std::optional<FileIdentity>& selected, const IconWhereabouts& now) {
+    std::optional<std::int64_t> number;
+    if (const auto place = now.find(selected))
+        number = iconIndex(place->name());
+    else if (record.selectedBehind)
+        number = now.countIn(m_store.iconCacheURL() / bundleID) + *record.selectedBehind;
+    if (number != m_settings.getSelectedIcon(bundleID))
+        m_settings.setSelectedIcon(bundleID, number);
 }
 
 void IconTransfer::end() {

@@ -46,7 +46,9 @@ public:
     /// where it was, and the numbers keep their gaps when a deletion failed. The answer has a place for each of
     /// `shown`, or is empty when there is no record of the application or its folders cannot be read: nothing
     /// is known to be lost then. Safe to repeat, also by another process after a kill, for as long as the
-    /// record stands: what is done is not done again, and the answer is the same.
+    /// record stands: what is done is not done again, and the answer is the same. The selected icon in the
+    /// settings stays the one that it was before the run, at its present number, until the caller stores
+    /// another.
     Places run(const std::string& bundleID);
 
     /// The bundle identifiers of a run that was begun and not ended, by this process or an earlier one.
@@ -57,8 +59,9 @@ public:
     Result<std::map<std::string, std::vector<MacPath>>> recorded() const;
 
     /// Undoes nothing, but leaves the settings right when the staged changes of an interrupted run are given
-    /// up: each application's selected icon is the one that it was before, at its present number; none when it
-    /// was deleted. An application whose folders cannot be read is left as it is. Safe to repeat.
+    /// up: the icons are numbered without gaps, and each application's selected icon is the one that it was
+    /// before, at its present number; none when it was deleted. An application whose folders cannot be read is
+    /// left as it is. Safe to repeat.
     void abandon();
 
     /// Removes the record; fine when there is none. To be called when the staged changes are gone.
@@ -70,6 +73,8 @@ private:
     TransferRecords load() const;
     std::optional<IconWhereabouts> look(const std::string& bundleID) const;
     Result<TransferRecord> recordOf(const Application& application, const TransferRecord* interrupted) const;
+    void keepSelection(const std::string& bundleID, const TransferRecord& record,
+                       const std::optional<FileIdentity>& selected, const IconWhereabouts& now);
 
     FileManager& m_files;
     SettingsManager& m_settings;
