@@ -12,8 +12,8 @@ class FileManager;
 /// thread.
 Status checkPlainFolders(const FileManager& files, const MacPath& root, const MacPath& folder);
 
-/// Makes a folder below `root`, and what is missing above it, on stable storage. Fine when it is there; the same
-/// errors as above.
+/// Makes a folder below `root`, and what is missing above it, on stable storage. Fine when it is there; the
+/// same errors as above.
 Status createPlainFolder(FileManager& files, const MacPath& root, const MacPath& folder);
 
 } // namespace tavrik
