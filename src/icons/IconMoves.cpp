@@ -27,6 +27,7 @@ Status removeIfPresent(FileManager& files, const MacPath& path) {
 /// and the order holds after each step.
 Status spread(FileManager& files, IconCache& cache, const MacPath& folder, std::vector<NumberedIcon>& icons) {
     std::vector<int> numbers;
+    numbers.reserve(icons.size());
     for (const NumberedIcon& icon : icons)
         numbers.push_back(numbers.empty() ? icon.number : std::max(icon.number, numbers.back() + 1));
     for (std::size_t i = icons.size(); i-- > 0;) {

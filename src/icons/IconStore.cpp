@@ -21,6 +21,7 @@ namespace {
 
 std::vector<MacPath> pathsOf(const std::vector<NumberedIcon>& icons) {
     std::vector<MacPath> paths;
+    paths.reserve(icons.size());
     for (const NumberedIcon& icon : icons)
         paths.push_back(icon.path);
     return paths;

@@ -134,6 +134,7 @@ IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
     if (!before)
         return {};
     std::vector<std::optional<FileIdentity>> shown;
+    shown.reserve(record.shown.size());
     for (const RecordedIcon& icon : record.shown)
         shown.push_back(before->recognize(icon, record));
     const auto selected = selectedIn(record, *before);
@@ -163,6 +164,7 @@ IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
         return {};
     keepSelection(bundleID, record, selected, *after);
     Places places;
+    places.reserve(shown.size());
     for (const auto& identity : shown)
         places.push_back(after->find(identity));
     return places;

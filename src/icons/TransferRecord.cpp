@@ -27,6 +27,7 @@ plist::Dictionary encode(const RecordedIcon& icon) {
 
 plist::Array encode(const std::vector<RecordedIcon>& icons) {
     plist::Array list;
+    list.reserve(icons.size());
     for (const RecordedIcon& icon : icons)
         list.emplace_back(encode(icon));
     return list;
