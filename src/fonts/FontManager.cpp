@@ -99,7 +99,7 @@ void FontManager::changeLaunchpad(const std::function<void(LaunchpadTitles&)>& c
     auto database = file.empty() ? std::nullopt : sqlite::Connection::open(file, sqlite::OpenMode::readWrite);
     if (!database)
         return;
-    LaunchpadTitles titles(*database, m_mac, m_settings, m_fontReplacer);
+    LaunchpadTitles titles(*database, m_mac.bookmarks, m_settings, m_fontReplacer);
     change(titles);
 }
 

@@ -5,9 +5,7 @@
 #include "fonts/TitleChanges.h"
 #include "model/SettingsManager.h"
 #include "platform/Bookmarks.h"
-#include "platform/FileManager.h"
 #include "platform/Log.h"
-#include "platform/Mac.h"
 #include "platform/Sqlite.h"
 
 #include <set>
@@ -27,10 +25,10 @@ constexpr const char* kFolderIDs = "SELECT item_id FROM groups";
 
 } // namespace
 
-LaunchpadTitles::LaunchpadTitles(sqlite::Connection& database, const Mac& mac, SettingsManager& settings,
-                                 const FontReplacer& replacer)
+LaunchpadTitles::LaunchpadTitles(sqlite::Connection& database, const Bookmarks& bookmarks,
+                                 SettingsManager& settings, const FontReplacer& replacer)
     : m_database(database),
-      m_mac(mac),
+      m_bookmarks(bookmarks),
       m_settings(settings),
       m_replacer(replacer) {}
 
@@ -70,10 +68,9 @@ std::optional<std::size_t> LaunchpadTitles::rewriteApps(std::string_view fontNam
 }
 
 std::string LaunchpadTitles::plainAppName(const std::string& title, ByteView bookmark) const {
-    const auto bundle = m_mac.bookmarks.resolve(bookmark);
-    if (bundle && !bundle->name().empty() && m_mac.files.exists(*bundle))
-        return bundleName(*bundle);
-    return m_replacer.convertToNormal(title);
+    // A bookmark resolves only to what is there: to ask again would double what a row costs.
+    const auto bundle = m_bookmarks.resolve(bookmark);
+    return bundle && !bundle->name().empty() ? bundleName(*bundle) : m_replacer.convertToNormal(title);
 }
 
 bool LaunchpadTitles::styleFolders(const FontState& style, const std::vector<TitleStyle>& shown) {

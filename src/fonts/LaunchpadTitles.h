@@ -12,9 +12,9 @@
 
 namespace tavrik {
 
+class Bookmarks;
 class FontReplacer;
 class SettingsManager;
-struct Mac;
 
 namespace sqlite {
 class Connection;
@@ -25,7 +25,7 @@ class Connection;
 /// then logged. Titles have no part in the database's own triggers. One thread.
 class LaunchpadTitles {
 public:
-    LaunchpadTitles(sqlite::Connection& database, const Mac& mac, SettingsManager& settings,
+    LaunchpadTitles(sqlite::Connection& database, const Bookmarks& bookmarks, SettingsManager& settings,
                     const FontReplacer& replacer);
 
     /// An application's plain name is its bundle's file name, and its title in plain text where the bookmark
@@ -53,7 +53,7 @@ private:
     std::string plainAppName(const std::string& title, ByteView bookmark) const;
 
     sqlite::Connection& m_database;
-    const Mac& m_mac;
+    const Bookmarks& m_bookmarks;
     SettingsManager& m_settings;
     const FontReplacer& m_replacer;
 };
