@@ -42,9 +42,11 @@ std::set<int> AppliedIcons::State::numbers() const {
 AppliedIcons::State AppliedIcons::look(const std::string& bundleID) {
     State state{.permanentIconPaths = m_store.listIcons(bundleID),
                 .selectedIcon = m_settings.getSelectedIcon(bundleID)};
-    std::erase_if(state.permanentIconPaths, [this](const MacPath& icon) {
+    std::set<std::optional<int>> numbers;
+    std::erase_if(state.permanentIconPaths, [&](const MacPath& icon) {
         const auto present = m_files.attributes(icon, Links::dontFollow);
-        return present && present->type != FileType::file;
+        const bool isOther = present && present->type != FileType::file;
+        return isOther || !numbers.insert(iconIndex(icon.name())).second;
     });
     const auto [last, isNew] = m_lastAppliedState.try_emplace(bundleID, state);
     if (!isNew && last->second != state) {

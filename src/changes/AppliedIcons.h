@@ -41,7 +41,8 @@ public:
         bool operator==(const State&) const = default;
     };
 
-    /// A link or a folder under the name of an icon is none.
+    /// A link or a folder under the name of an icon is none, and of two icons with the same number the second
+    /// one is out of sight until an apply has renumbered them, since removing is by number.
     State look(const std::string& bundleID);
 
     /// Forgets what was seen: the program itself has changed it.

@@ -2,6 +2,7 @@
 
 #include "icons/IconFiles.h"
 #include "icons/IconStore.h"
+#include "icons/PlainFolders.h"
 #include "model/SettingsManager.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
@@ -31,7 +32,7 @@ std::string listText(const Items& items, ToText&& toText) {
 bool areSafe(std::initializer_list<std::string_view> names) {
     for (const std::string_view name : names) {
         if (!isSafePathComponent(name)) {
-            log("⚠️ Refusing a name that cannot be a file's: " + std::string(name));
+            log("⚠️ Refusing an unsafe name: " + std::string(name));
             return false;
         }
     }
@@ -63,10 +64,9 @@ PendingChangesManager::PendingChangesManager(Mac& mac, SettingsManager& settings
       m_pendingChangesBaseURL(settings.appSupportURL() / "PendingChanges"),
       m_file(mac.files, m_pendingChangesBaseURL),
       m_applied(mac.files, store, settings) {
-    for (const MacPath& folder : {m_pendingChangesBaseURL, pendingIconsBaseURL()}) {
-        if (const Status created = m_files.createFolder(folder); !created)
-            log("Failed to create directories: " + created.error().description);
-    }
+    const MacPath& folder = pendingIconsBaseURL();
+    if (const Status created = createPlainFolder(m_files, settings.appSupportURL(), folder); !created)
+        log("Failed to create directories: " + created.error().description);
     log("💾 Recovery file location: " + tempFileURL().string());
     log("📁 Pending icons location: " + pendingIconsBaseURL().string());
     if (m_file.exists())
@@ -197,7 +197,7 @@ bool PendingChangesManager::stageRow(const std::string& bundleID, const std::vec
         selectedIndex.reset();
 
     const bool isApplied = row.pendingAdditionPaths.empty() && row.hiddenPermanentIndices.empty() &&
-                           applied.isChosenBy(selectedIndex) && !m_unfinished.contains(bundleID);
+                           applied.isChosenBy(selectedIndex) && !m_staged.unfinished.contains(bundleID);
     if (isApplied)
         m_staged.pendingChanges.erase(bundleID);
     else
@@ -243,11 +243,11 @@ void PendingChangesManager::deleteTheme(const std::string& themeID) {
 
 void PendingChangesManager::setPendingFont(const std::optional<std::string>& font) {
     assertOnMainThread("Staging a font");
-    m_staged.pendingFont.reset();
-    if (font && !font->empty()) {
-        m_staged.pendingFont = font;
+    if (font && !areSafe({*font}))
+        return;
+    m_staged.pendingFont = font;
+    if (font)
         m_staged.pendingReset = false;
-    }
     updatePendingChangesState();
 }
 

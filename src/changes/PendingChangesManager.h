@@ -111,8 +111,8 @@ public:
     bool recover();
 
     /// What was staged has been applied: it is dropped with the recovery file and the record of the transfer,
-    /// and the styled alphabet in effect is read anew. Icons that could not be moved to the permanent ones and
-    /// are still pending stay staged.
+    /// and the styled alphabet in effect is read anew. Icons that could not be moved to the permanent ones, or
+    /// were added meanwhile, stay staged. Unlike a discard it removes no icon: one may just have been saved.
     void noteApplied();
 
     /// Drops everything that is staged, the pending icons and the recovery file: the person does not want it.
@@ -125,12 +125,13 @@ private:
                   const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
     bool updatePendingChangesState();
     void updateFlags();
+    void finishTransfer();
     bool takeOverFile();
     enum class PendingIcons { keep, cleanUp };
-    void clear(PendingIcons pendingIcons);
+    void clear(PendingIcons icons);
     Result<bool> followTransfer(const std::string& bundleID, const std::vector<MacPath>& shown,
                                 IconChange& change);
-    Result<bool> recoverRow(const std::string& bundleID, StagedChanges& recovered) const;
+    Status recoverRow(const std::string& bundleID, StagedChanges& recovered) const;
     void sweep();
     bool isPendingIconOf(const MacPath& path, const std::string& bundleID) const;
 
@@ -144,16 +145,15 @@ private:
     bool m_hasPendingChanges = false;
     bool m_isInitializing = true; ///< nothing is saved while it is set
     StagedChanges m_staged;
-    /// Applications of which an apply was interrupted: what the settings say of them need not be what the Dock
-    /// shows, so their entries stay even when they equal it.
-    std::set<std::string> m_unfinished;
     std::optional<std::string> m_activeFont;
     MacPath m_tavrikAppsURL;
     MacPath m_pendingChangesBaseURL;
     RecoveryFile m_file;
-    bool m_isFileOurs = false;       ///< what the file says was taken in, given up, or written by this object
-    bool m_recoveryFailed = false;   ///< the file may be good, but was not taken in
-    bool m_transferHasEnded = false; ///< its record goes with the next successful write
+    bool m_isFileOurs = false;     ///< what the file says was taken in, given up, or written by this object
+    bool m_recoveryFailed = false; ///< the file may be good, but was not taken in
+    /// What is to be done about the record of a transfer with the next successful write.
+    enum class Transfer { none, followed, over };
+    Transfer m_interruptedTransfer = Transfer::none;
     mutable AppliedIcons m_applied;
 };
 

@@ -86,14 +86,13 @@ bool PendingChangesManager::recover() {
     const auto interrupted = m_transfer.recorded();
     if (!interrupted)
         return failed(interrupted.error());
-    std::set<std::string> unfinished;
     bool isComplete = true;
     for (const auto& [bundleID, shown] : *interrupted) {
         recovered.markedForDeletion.erase(bundleID);
         const auto change = recovered.pendingChanges.find(bundleID);
         if (change == recovered.pendingChanges.end())
             continue;
-        unfinished.insert(bundleID);
+        recovered.unfinished.insert(bundleID);
         const auto found = followTransfer(bundleID, shown, change->second);
         if (!found)
             return failed(found.error());
@@ -106,21 +105,14 @@ bool PendingChangesManager::recover() {
     for (const auto& [bundleID, marked] : recovered.markedForDeletion)
         bundleIDs.insert(bundleID);
     for (const std::string& bundleID : bundleIDs) {
-        const auto isApplied = recoverRow(bundleID, recovered);
-        if (!isApplied)
-            return failed(isApplied.error());
-        if (*isApplied)
-            unfinished.insert(bundleID);
-        const IconChange& change = recovered.pendingChanges[bundleID];
-        log("   " + bundleID + ": " + std::to_string(change.iconPaths.size()) +
-            " icons, selected: " + (change.selectedIndex ? std::to_string(*change.selectedIndex) : "none"));
+        if (const Status checked = recoverRow(bundleID, recovered); !checked)
+            return failed(checked.error());
     }
 
     m_staged = std::move(recovered);
-    m_unfinished = std::move(unfinished);
     m_recoveryFailed = false;
     m_isFileOurs = true;
-    m_transferHasEnded = true;
+    m_interruptedTransfer = Transfer::followed;
     const bool saved = updatePendingChangesState();
     if (saved && isComplete)
         sweep();
@@ -156,9 +148,9 @@ Result<bool> PendingChangesManager::followTransfer(const std::string& bundleID,
     return change.iconPaths.size() == count;
 }
 
-/// Brings what was read about an application's icons to what is on disk. True when it is just what is applied.
-/// Nothing is touched; an error when the disk does not tell.
-Result<bool> PendingChangesManager::recoverRow(const std::string& bundleID, StagedChanges& recovered) const {
+/// Brings what was read about an application's icons to what is on disk, and touches nothing there. An error
+/// when the disk does not tell.
+Status PendingChangesManager::recoverRow(const std::string& bundleID, StagedChanges& recovered) const {
     const AppliedIcons::State applied = m_applied.look(bundleID);
     IconRow row{.permanentIconPaths = applied.permanentIconPaths};
     const auto entry = recovered.pendingChanges.find(bundleID);
@@ -171,13 +163,14 @@ Result<bool> PendingChangesManager::recoverRow(const std::string& bundleID, Stag
         if (!isThere)
             return isThere.error();
         const bool isPending = isPendingIconOf(path, bundleID);
-        if (!*isThere)
+        const bool isListed = std::ranges::find(row.permanentIconPaths, path) != row.permanentIconPaths.end();
+        if (*isThere && !isPending && row.permanentIconPaths.empty())
+            return Error{"The icons of " + bundleID + " cannot be listed"};
+        if (!*isThere || (!isPending && !isListed))
             log((isPending ? "⚠️ Warning: Pending icon missing at " : "⚠️ Warning: Permanent icon missing at ") +
                 path.string());
         else if (isPending)
             row.pendingAdditionPaths.push_back(path);
-        else if (std::ranges::find(row.permanentIconPaths, path) == row.permanentIconPaths.end())
-            return Error{"The icons of " + bundleID + " cannot be listed"};
         else
             shown.insert(iconIndex(path.name()));
     }
@@ -203,10 +196,12 @@ Result<bool> PendingChangesManager::recoverRow(const std::string& bundleID, Stag
     if (change.selectedIndex && !selected)
         log("⚠️ Warning: Selected index " + std::to_string(*change.selectedIndex) + " out of bounds for " +
             bundleID + ", resetting to -1");
-    const bool isApplied =
-        row.pendingAdditionPaths.empty() && row.hiddenPermanentIndices.empty() && applied.isChosenBy(selected);
+    if (!hasEntry && row.hiddenPermanentIndices.empty())
+        return Done{};
     recovered.pendingChanges.insert_or_assign(bundleID, IconChange{display, selected});
-    return isApplied;
+    log("   " + bundleID + ": " + std::to_string(display.size()) +
+        " icons, selected: " + (selected ? std::to_string(*selected) : "none"));
+    return Done{};
 }
 
 /// What nothing names was left by a kill, unless a file that was put aside names it.

@@ -56,11 +56,22 @@ bool PendingChangesManager::savePendingChangesToTempFile() {
     } else {
         saved = m_file.write(encodeStagedChanges(m_staged, m_clock.now()));
     }
-    if (saved && m_transferHasEnded) {
-        m_transfer.end();
-        m_transferHasEnded = false;
-    }
+    if (saved)
+        finishTransfer();
     return saved;
+}
+
+/// Once the file on disk does not name the places of before an interrupted transfer.
+void PendingChangesManager::finishTransfer() {
+    if (m_interruptedTransfer == Transfer::none)
+        return;
+    // The staged changes stand and may still be given up, so the icon in use must be the one of before.
+    if (m_interruptedTransfer == Transfer::followed) {
+        m_transfer.abandon();
+        m_applied.forget();
+    }
+    m_transfer.end();
+    m_interruptedTransfer = Transfer::none;
 }
 
 /// Before the first write over a file of an earlier session. One that was not taken in is given up only when it
@@ -78,7 +89,7 @@ bool PendingChangesManager::takeOverFile() {
             return false;
         }
     }
-    m_transferHasEnded = true;
+    m_interruptedTransfer = Transfer::over;
     m_isFileOurs = true;
     return true;
 }
@@ -86,7 +97,6 @@ bool PendingChangesManager::takeOverFile() {
 void PendingChangesManager::noteApplied() {
     assertOnMainThread("Noting an apply");
     m_applied.forget();
-    m_unfinished.clear();
     const auto font = m_settings.getCurrentFontState();
     m_activeFont = font ? std::optional(font->fontName) : std::nullopt;
 
@@ -107,11 +117,11 @@ void PendingChangesManager::noteApplied() {
         left.pendingChanges.emplace(bundleID, std::move(rest));
     }
     if (left.empty()) {
-        clear(m_file.hasOnePutAside() ? PendingIcons::keep : PendingIcons::cleanUp);
+        clear(PendingIcons::keep);
         return;
     }
     m_staged = std::move(left);
-    m_transferHasEnded = true;
+    m_interruptedTransfer = Transfer::over;
     updatePendingChangesState();
 }
 
@@ -120,22 +130,21 @@ void PendingChangesManager::clearAllPendingChanges() {
     // First, while the file still says what is given up: a kill after this leaves it to be recovered.
     if (!m_transfer.interrupted().empty())
         m_transfer.abandon();
-    m_unfinished.clear();
+    m_applied.forget();
     clear(PendingIcons::cleanUp);
 }
 
-void PendingChangesManager::clear(PendingIcons pendingIcons) {
+void PendingChangesManager::clear(PendingIcons icons) {
     m_staged = {};
+    m_interruptedTransfer = Transfer::over;
     const bool isOurs = takeOverFile();
     const Status removed = isOurs ? m_file.remove() : Status(Error{"The recovery file was left alone"});
     if (removed) {
-        if (pendingIcons == PendingIcons::cleanUp)
+        if (icons == PendingIcons::cleanUp)
             m_store.cleanUpAllPendingIcons();
-        m_transfer.end();
-        m_transferHasEnded = false;
+        finishTransfer();
         log("🧹 Cleared pending changes");
     } else {
-        m_transferHasEnded = true;
         log("⚠️ Could not clear pending changes: " + removed.error().description);
     }
     updateFlags();

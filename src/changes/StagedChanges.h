@@ -41,6 +41,9 @@ struct StagedChanges {
     /// Numbers of the permanent icons that the user removed, by bundle identifier. They stay on disk, out of
     /// sight, until the apply deletes them.
     std::map<std::string, std::set<int>> markedForDeletion;
+    /// Of `pendingChanges`, the applications of which an apply was interrupted. What the settings say of them
+    /// need not be what the Dock shows, so their entries stay even when they equal it.
+    std::set<std::string> unfinished;
     std::optional<std::string> pendingFont; ///< a styled alphabet
     bool pendingReset = false;              ///< all names back to plain text
 

@@ -13,6 +13,7 @@ constexpr const char* kIconChanges = "iconChanges";
 constexpr const char* kIconPaths = "iconPaths";
 constexpr const char* kSelectedIndex = "selectedIndex";
 constexpr const char* kMarkedForDeletion = "markedForDeletion";
+constexpr const char* kUnfinished = "unfinished";
 constexpr const char* kThemeIconHides = "themeIconHides";
 constexpr const char* kThemeID = "themeID";
 constexpr const char* kIconFileName = "iconFileName";
@@ -94,7 +95,13 @@ public:
             for (const std::string& themeID : safeNames(found->second, "theme identifier"))
                 staged.pendingThemeDeletions.insert(themeID);
         }
-        if (const auto* font = entryOf<std::string>(kPendingFont); font && !font->empty())
+        if (const auto found = m_root.find(kUnfinished); found != m_root.end()) {
+            for (const std::string& bundleID : safeNames(found->second, "bundle identifier")) {
+                if (staged.pendingChanges.contains(bundleID))
+                    staged.unfinished.insert(bundleID);
+            }
+        }
+        if (const auto* font = entryOf<std::string>(kPendingFont); font && isSafe(*font, "font"))
             staged.pendingFont = *font;
         if (const auto* reset = entryOf<bool>(kPendingReset); reset && *reset) {
             if (staged.pendingFont)
@@ -245,6 +252,8 @@ plist::Dictionary encodeStagedChanges(const StagedChanges& staged, Date timestam
     for (const auto& [bundleID, indices] : staged.markedForDeletion)
         marked.emplace(bundleID, arrayOf(indices));
     add(kMarkedForDeletion, std::move(marked));
+
+    add(kUnfinished, arrayOf(staged.unfinished));
 
     plist::Array hides;
     for (const ThemeIconHide& hide : staged.pendingThemeIconHides)

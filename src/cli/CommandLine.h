@@ -24,7 +24,6 @@ public:
 private:
     void declareLists();
     void declareIcons();
-    void declareFonts();
     void declareStaging();
     void declareWrappers();
     void declarePractice();

@@ -58,8 +58,10 @@ Result<std::vector<NumberedIcon>> numberedIcons(const FileManager& files, const 
         if (const auto number = iconIndex(plain))
             icons.push_back({*number, folder / name});
     }
-    std::ranges::stable_sort(
-        icons, {}, [](const NumberedIcon& icon) { return std::tuple(icon.number, icon.path.string().size()); });
+    std::ranges::sort(icons, {}, [](const NumberedIcon& icon) {
+        const std::string_view path = icon.path.string();
+        return std::tuple(icon.number, path.size(), path);
+    });
     return icons;
 }
 

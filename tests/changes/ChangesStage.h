@@ -50,6 +50,12 @@ protected:
         program = std::make_unique<Program>(small.mac);
     }
 
+    /// After a restart.
+    bool recover() {
+        restart();
+        return changes().recover();
+    }
+
     /// The icon saved and staged. False when it could not be.
     bool add(int number, const std::string& bundleID = kAtlas) {
         QImage image(8, 8, QImage::Format_RGB32);
@@ -62,46 +68,29 @@ protected:
     bool apply() {
         if (!changes().savePendingChangesToTempFile())
             return false;
-        const StagedChanges staged = changes().staged();
+        StagedChanges staged = changes().staged();
         std::vector<IconTransfer::Application> applications;
-        for (const auto& [bundleID, change] : staged.pendingChanges) {
-            const auto marked = staged.markedForDeletion.find(bundleID);
-            applications.push_back(
-                {bundleID, change.iconPaths,
-                 marked == staged.markedForDeletion.end() ? std::set<int>() : marked->second});
-        }
+        for (const auto& [bundleID, change] : staged.pendingChanges)
+            applications.push_back({bundleID, change.iconPaths, staged.markedForDeletion[bundleID]});
         if (!program->transfer.begin(applications))
             return false;
         for (const auto& [bundleID, change] : staged.pendingChanges) {
             const auto places = program->transfer.run(bundleID);
             const auto selected = static_cast<std::size_t>(change.selectedIndex.value_or(-1));
-            program->settings.setSelectedIcon(
-                bundleID, selected < places.size() && places[selected]
-                              ? std::optional<std::int64_t>(iconIndex(places[selected]->name()))
-                              : std::nullopt);
+            const auto place = selected < places.size() ? places[selected] : std::nullopt;
+            program->settings.setSelectedIcon(bundleID, place ? iconIndex(place->name()) : std::nullopt);
         }
         changes().noteApplied();
         return !changes().hasPendingChanges() && !files.exists(changes().tempFileURL());
     }
 
-    /// Atlas with the permanent icons of these numbers, the last one in use.
-    void furnish(const Numbers& numbers) {
-        for (const int number : numbers)
-            ASSERT_TRUE(add(number));
-        ASSERT_TRUE(apply());
-    }
-
-    int numberOf(const MacPath& icon) const {
-        const auto content = small.files.read(icon, FileManager::kLargestRead);
-        const QImage image =
-            content ? QImage::fromData(content->data(), static_cast<int>(content->size())) : QImage();
-        return image.isNull() ? -1 : static_cast<int>(image.pixel(0, 0) & 0xFFFFFF);
-    }
-
     Numbers numbersOf(const std::vector<MacPath>& icons) const {
         Numbers numbers;
-        for (const MacPath& icon : icons)
-            numbers.push_back(numberOf(icon));
+        for (const MacPath& icon : icons) {
+            const auto content = small.files.read(icon, FileManager::kLargestRead);
+            const auto image = content ? QImage::fromData(QByteArrayView(*content)) : QImage();
+            numbers.push_back(image.isNull() ? -1 : static_cast<int>(image.pixel(0, 0) & 0xFFFFFF));
+        }
         return numbers;
     }
 
@@ -130,14 +119,12 @@ protected:
         Numbers numbers = numbersOf(program->store.listIcons(bundleID));
         for (const int number : numbersOf(program->store.listPendingIcons(bundleID)))
             numbers.push_back(number);
-        std::ranges::sort(numbers);
-        return numbers;
+        return sorted(std::move(numbers));
     }
 
-    std::optional<plist::Value> recoveryFile() const {
-        const auto content = small.files.read(changes().tempFileURL(), FileManager::kLargestRead);
-        auto root = content ? plist::parse(*content) : Result<plist::Value>(Error{});
-        return root ? std::optional(*root) : std::nullopt;
+    static Numbers sorted(Numbers numbers) {
+        std::ranges::sort(numbers);
+        return numbers;
     }
 
     void writeRecoveryFile(const plist::Dictionary& root) {
