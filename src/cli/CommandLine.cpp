@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "cli/FontCommands.h"
 #include "cli/IconCommands.h"
 #include "cli/ListCommands.h"
 #include "cli/PracticeCommands.h"
@@ -64,6 +65,7 @@ CommandLine::CommandLine()
     m_parser.set_version_flag("--version", "tavrikctl " TAVRIK_VERSION);
     declareLists();
     declareIcons();
+    declareFonts();
     declareStaging();
     declareWrappers();
     declarePractice();
@@ -103,6 +105,20 @@ void CommandLine::declareIcons() {
         add<IconIndexCommand>(icon, "remove", "Take an icon away", command, Kind::remove);
     addBundleID(*command, remove.bundleID);
     command->add_option("INDEX", remove.index, "As \"icon list\" shows it")->required()->check(mustBeIndex);
+}
+
+void CommandLine::declareFonts() {
+    CLI::App* command = nullptr;
+    CLI::App& font = *m_parser.add_subcommand("font", "Names in styled alphabets, staged");
+    font.require_subcommand(1);
+    FontListCommand& list = add<FontListCommand>(font, "list", "List the styles", command);
+    command->add_option("--preview", list.preview, "The text to show them with");
+    addJson(*command, list.json);
+
+    FontSetCommand& set = add<FontSetCommand>(font, "set", "Write all names in a style", command);
+    command->add_option("NAME", set.name, "A style's name, as \"font list\" shows it")->required();
+    add<FontResetCommand>(font, "reset", "Write all names in plain text again", command);
+    add<FontShowCommand>(font, "show", "Tell the style in effect, and the one that is staged", command);
 }
 
 void CommandLine::declareStaging() {

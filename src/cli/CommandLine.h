@@ -24,6 +24,7 @@ public:
 private:
     void declareLists();
     void declareIcons();
+    void declareFonts();
     void declareStaging();
     void declareWrappers();
     void declarePractice();

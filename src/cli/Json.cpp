@@ -140,6 +140,19 @@ QJsonObject toJson(const StagedChanges& staged, const std::optional<Date>& times
     };
 }
 
+QJsonArray toJson(const FontReplacer& fonts, const std::string& preview) {
+    QJsonArray array;
+    for (const FontReplacer::FontMap& font : fonts.allFontMaps()) {
+        array.append(QJsonObject{
+            {QLatin1String("name"), text(font.name)},
+            {QLatin1String("preview"), text(fonts.convert(preview.empty() ? font.name : preview, font.name))},
+            {QLatin1String("isMultiCase"), fonts.isMultiCaseFont(font.name)},
+            {QLatin1String("hasDigits"), font.digits.has_value()},
+        });
+    }
+    return array;
+}
+
 std::string jsonText(const QJsonArray& array) {
     return plainText(QJsonDocument(array));
 }

@@ -2,6 +2,7 @@
 
 #include "changes/IconRow.h"
 #include "changes/StagedChanges.h"
+#include "fonts/FontReplacer.h"
 #include "model/ApplicationInfo.h"
 #include "model/SettingsRecords.h"
 #include "system/DockManager.h"
@@ -28,6 +29,9 @@ QJsonArray toJson(const std::map<std::string, TavrikMapping>& mappings);
 QJsonObject toJson(const std::string& bundleID, const IconRow& row);
 /// With its "timestamp". What is not there is null.
 QJsonObject toJson(const StagedChanges& staged, const std::optional<Date>& timestamp);
+
+/// The styles by "name", each with the "preview": the text written in it, or its name when that is empty.
+QJsonArray toJson(const FontReplacer& fonts, const std::string& preview);
 
 std::string jsonText(const QJsonArray& array);
 std::string jsonText(const QJsonObject& object);

@@ -1,10 +1,6 @@
 #include "RunningCompanion.h"
 #include "platform/practice/Layout.h"
 
-#include <QBuffer>
-#include <QImage>
-#include <QJsonObject>
-
 #include <gmock/gmock.h>
 
 #include <set>
@@ -16,18 +12,12 @@ using testing::IsEmpty;
 
 namespace {
 
-/// The first application of the list for which the test holds.
-template<typename Test>
-std::string identifierOf(const QJsonArray& apps, Test&& test) {
-    for (const auto& entry : apps) {
-        if (test(entry.toObject()))
-            return entry.toObject()[QLatin1String("bundleID")].toString().toStdString();
-    }
-    return {};
+bool isIOS(const QJsonObject& app) {
+    return app[QLatin1String("isIOSApp")].toBool();
 }
 
-bool flag(const QJsonObject& app, const char* name) {
-    return app[QLatin1String(name)].toBool();
+bool liesOutside(const QJsonObject& app) {
+    return app[QLatin1String("path")].toString().startsWith(QLatin1String("/opt/"));
 }
 
 } // namespace
@@ -56,23 +46,12 @@ TEST(Companion, ListsRecordsByTheirFieldNamesAndKeepsLogLinesApart) {
 
 TEST(Companion, RefusesInASentenceAndChangesNothing) {
     const RunningCompanion companion;
-    const QJsonArray apps = companion.json({"apps", "--json"});
-    const std::string plain = identifierOf(
-        apps, [](const QJsonObject& app) { return !flag(app, "isIOSApp") && !flag(app, "isUnsupportedApp"); });
-    const std::string mobile = identifierOf(apps, [](const QJsonObject& app) { return flag(app, "isIOSApp"); });
-    const std::string outside = identifierOf(apps, [](const QJsonObject& app) {
-        return app[QLatin1String("path")].toString().startsWith(QLatin1String("/opt/"));
-    });
-    ASSERT_FALSE(plain.empty() || mobile.empty() || outside.empty());
-
-    QBuffer png;
-    ASSERT_TRUE(png.open(QIODevice::WriteOnly));
-    QImage square(64, 64, QImage::Format_ARGB32);
-    square.fill(Qt::red);
-    ASSERT_TRUE(square.save(&png, "png"));
-    const std::string whole = png.data().toStdString();
-    const std::string picture = companion.file("good.png", bytesOf(whole)).string();
-    const std::string cut = companion.file("cut.png", bytesOf(whole.substr(0, whole.size() / 2))).string();
+    const std::string plain = companion.plainApp();
+    const std::string mobile = companion.appWhere(isIOS);
+    const std::string outside = companion.appWhere(liesOutside);
+    const std::string picture = companion.picture("good.png", Qt::red).string();
+    const auto whole = PosixFileManager(HostPath("/")).read(MacPath(picture));
+    const std::string cut = companion.file("cut.png", ByteView(*whole).first(whole->size() / 2)).string();
     const std::string text = companion.file("text.png", bytesOf("no picture at all")).string();
 
     const struct {

@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <thread>
@@ -30,49 +29,39 @@ bool isNear(const QColor& a, const QColor& b) {
            std::abs(a.blue() - b.blue()) < kLossy;
 }
 
-QByteArray gif(const QColor& colour) {
-    const auto byte = [](int value) { return QByteArray(1, static_cast<char>(value)); };
-    return QByteArray::fromHex("4749463839610100010080 0000") + byte(colour.red()) + byte(colour.green()) +
-           byte(colour.blue()) + QByteArray::fromHex("000000 2c00000000010001000002024401003b");
-}
-
-QByteArray svg(const QColor& colour, QSize size) {
-    return QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'>"
-                          "<rect width='%1' height='%2' fill='%3'/></svg>")
-        .arg(size.width())
-        .arg(size.height())
-        .arg(colour.name())
-        .toUtf8();
-}
-
 /// A whole file of one of the formats that are taken in.
-QByteArray content(const std::string& format, const QImage& image) {
+QByteArray content(const QByteArray& format, const QImage& image) {
     const QColor colour = image.pixelColor(0, 0);
     if (format == "gif")
-        return gif(colour);
+        return QByteArray::fromHex("47494638396101000100800000" + colour.name().toLatin1().mid(1) +
+                                   "0000002c00000000010001000002024401003b");
     if (format == "svg")
-        return svg(colour, image.size());
+        return QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'>"
+                              "<rect width='%1' height='%2' fill='%3'/></svg>")
+            .arg(QString::number(image.width()), QString::number(image.height()), colour.name())
+            .toUtf8();
     if (format == "icns") {
         const Bytes container = icns::encode(image);
         return {reinterpret_cast<const char*>(container.data()), static_cast<qsizetype>(container.size())};
     }
     QBuffer buffer;
-    EXPECT_TRUE(buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format.c_str(), 95)) << format;
+    EXPECT_TRUE(buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format, 95)) << format.toStdString();
     return buffer.data();
 }
 
-/// A PNG that says it has 100,000 pixels a side, in a few bytes.
-QByteArray hugePng() {
-    return QByteArray::fromHex("89504e470d0a1a0a"
-                               "0000000d49484452000186a0000186a00806000000a8520bc8"
-                               "0000000c49444154789c6360a03d00000064000186643c35"
-                               "0000000049454e44ae426082");
-}
-
-/// What is wrong with the picture of this number; empty for a good one.
-std::string damageOf(int number) {
-    static const char* const kinds[] = {"cut", "empty", "text", "huge"};
-    return number % 11 == 5 ? kinds[number / 11 % 4] : "";
+/// One of the ways in which a picture is none.
+QByteArray damaged(const QByteArray& whole, int kind) {
+    switch (kind % 4) {
+    case 0:
+        return whole.left(whole.size() / 2);
+    case 1:
+        return {};
+    case 2:
+        return "This is no picture, whatever its name says.";
+    default: // a PNG that says it has 100,000 pixels a side, in a few bytes
+        return QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000186a0000186a00806000000a8520bc8"
+                                   "0000000c49444154789c6360a03d00000064000186643c350000000049454e44ae426082");
+    }
 }
 
 /// The pictures that sentences begin with, in their order. A plugin may have said something of its own.
@@ -87,50 +76,29 @@ std::vector<std::string> named(const std::string& errors) {
     return names;
 }
 
-struct Picture {
-    std::string file;
-    QColor colour;
-    bool isGood = true;
-};
-
-Picture make(const RunningCompanion& companion, int number) {
-    static const char* const formats[] = {"png", "jpg", "bmp", "webp", "tiff", "gif", "svg", "icns", "ico"};
-    static const QSize sizes[] = {{40, 40}, {1, 1}, {64, 48}, {16, 200}, {130, 20}, {33, 77}};
-    const std::string format = formats[number % 9];
-    QSize size = sizes[number % 6];
-    if (number % 60 == 19)
-        size = {2400, 1600};
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colourOf(number));
-
-    const std::string damage = damageOf(number);
-    QByteArray bytes = damage == "huge" ? hugePng() : content(format, image);
-    if (damage == "cut")
-        bytes = bytes.left(bytes.size() / 2);
-    else if (damage == "empty")
-        bytes.clear();
-    else if (damage == "text")
-        bytes = "This is no picture, whatever its name says.";
-    const std::string name = "picture-" + std::to_string(number) + "." + format;
-    const HostPath file = companion.file(name, bytesOf(bytes.toStdString()));
-    return {.file = file.string(), .colour = colourOf(number), .isGood = damage.empty()};
-}
-
 } // namespace
 
 TEST(ManyPictures, AreTakenInInTheirOrderAndTheDamagedOnesRefusedOneByOne) {
+    const QByteArray formats[] = {"png", "jpg", "bmp", "webp", "tiff", "gif", "svg", "icns", "ico"};
+    const QSize sizes[] = {{40, 40}, {1, 1}, {64, 48}, {16, 200}, {130, 20}, {33, 77}};
     const RunningCompanion companion;
     const std::string bundleID = companion.plainApp();
     std::vector<std::string> arguments{"icon", "add", bundleID};
     std::vector<QColor> colours;
     std::vector<std::string> refused;
     for (int number = 0; number < kPictures; ++number) {
-        const Picture picture = make(companion, number);
-        arguments.push_back(picture.file);
-        if (picture.isGood)
-            colours.push_back(picture.colour);
-        else
-            refused.push_back(HostPath(picture.file).name());
+        const QByteArray& format = formats[number % 9];
+        const std::string name = "picture-" + std::to_string(number) + "." + format.toStdString();
+        QImage image(number % 60 == 19 ? QSize(2400, 1600) : sizes[number % 6], QImage::Format_RGB32);
+        image.fill(colourOf(number));
+        QByteArray bytes = content(format, image);
+        if (number % 11 == 5) {
+            bytes = damaged(bytes, number / 11);
+            refused.push_back(name);
+        } else {
+            colours.push_back(colourOf(number));
+        }
+        arguments.push_back(companion.file(name, bytesOf(bytes.toStdString())).string());
     }
 
     const ToolResult added = companion.run(arguments);

@@ -3,10 +3,6 @@
 #include "platform/Sqlite.h"
 #include "practice/dock/Dock.h"
 
-#include <QBuffer>
-#include <QImage>
-#include <QJsonObject>
-
 #include <gmock/gmock.h>
 
 using namespace tavrik;
@@ -59,12 +55,7 @@ TEST(CompanionInRealTime, RestylesAnApplicationOfTheDockAndGivesItBack) {
     ASSERT_TRUE(practice::writeDockBehaviour(companion.root(),
                                              {.restartDelay = 0.1, .indexDelay = 0.5, .indexes = true}));
 
-    QImage picture(300, 200, QImage::Format_ARGB32);
-    picture.fill(QColor(255, 0, 200));
-    QBuffer png;
-    ASSERT_TRUE(png.open(QIODevice::WriteOnly) && picture.save(&png, "png"));
-    const HostPath file = companion.file("new.png", bytesOf(png.data().toStdString()));
-
+    const HostPath file = companion.picture("new.png", QColor(255, 0, 200));
     const auto rowsBefore = launchpadRows(companion.root());
     const FileTree appsBefore = treeOf(companion.root() / "Applications");
     const ToolResult created = companion.run({"wrapper", "create", bundleID, file.string()});

@@ -3,6 +3,8 @@
 #include "platform/ChildProcess.h"
 #include "platform/practice/Layout.h"
 
+#include <QImage>
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -99,7 +101,9 @@ HostPath RunningCompanion::file(const std::string& name, ByteView content) const
     return m_folder.path() / name;
 }
 
-HostPath RunningCompanion::picture(const std::string& name, const QImage& image) const {
+HostPath RunningCompanion::picture(const std::string& name, const QColor& colour) const {
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(colour);
     const HostPath file = m_folder.path() / name;
     EXPECT_TRUE(image.save(QString::fromStdString(file.string()))) << file.string();
     return file;
@@ -118,12 +122,17 @@ std::string RunningCompanion::readByPython(const MacPath& propertyList) const {
 }
 
 std::string RunningCompanion::plainApp() const {
-    for (const auto& entry : json({"apps", "--json"})) {
-        const QJsonObject app = entry.toObject();
-        if (!app[QLatin1String("isIOSApp")].toBool() && !app[QLatin1String("isUnsupportedApp")].toBool())
-            return app[QLatin1String("bundleID")].toString().toStdString();
+    return appWhere([](const QJsonObject& app) {
+        return !app[QLatin1String("isIOSApp")].toBool() && !app[QLatin1String("isUnsupportedApp")].toBool();
+    });
+}
+
+std::string RunningCompanion::appWhere(const std::function<bool(const QJsonObject&)>& test) const {
+    for (const auto& app : json({"apps", "--json"})) {
+        if (test(app.toObject()))
+            return app.toObject()[QLatin1String("bundleID")].toString().toStdString();
     }
-    ADD_FAILURE() << "no application can be restyled";
+    ADD_FAILURE() << "there is no such application";
     return {};
 }
 

@@ -6,12 +6,13 @@
 #include "support/FileTree.h"
 #include "support/TemporaryFolder.h"
 
-#include <QImage>
+#include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,14 +39,17 @@ public:
     /// A file of this test's own outside the volume.
     HostPath file(const std::string& name, ByteView content) const;
 
-    /// The same for a picture, in the format of the name's ending.
-    HostPath picture(const std::string& name, const QImage& image) const;
+    /// The same for a picture of one colour, in the format of the name's ending.
+    HostPath picture(const std::string& name, const QColor& colour) const;
 
     /// Where the host keeps a file of the volume.
     HostPath hostPath(const QJsonValue& macPath) const;
 
     /// The identifier of an application that can be restyled.
     std::string plainApp() const;
+
+    /// The identifier of the first application for which the test holds.
+    std::string appWhere(const std::function<bool(const QJsonObject&)>& test) const;
 
     /// What Python's own reader makes of a property list of the volume: JSON, or its complaint.
     std::string readByPython(const MacPath& propertyList) const;

@@ -67,11 +67,7 @@ protected:
 
     RunningCompanion companion;
     const std::string bundleID = companion.plainApp();
-    const std::string picture = [&] {
-        QImage image(64, 64, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        return companion.picture("red.png", image).string();
-    }();
+    const std::string picture = companion.picture("red.png", Qt::red).string();
     const PosixFileManager volume{companion.root()};
     std::mt19937 generator{20010101};
 };

@@ -15,7 +15,7 @@ using testing::Not;
 
 TEST(TwoAtOnce, TheSecondLooksButChangesNothingAndSaysWhoIsFirst) {
     const RunningCompanion companion;
-    const std::string picture = companion.picture("square.png", QImage(64, 64, QImage::Format_RGB32)).string();
+    const std::string picture = companion.picture("green.png", Qt::green).string();
     const std::string bundleID = companion.plainApp();
     ASSERT_EQ(companion.run({"icon", "add", bundleID, picture}).exitStatus, 0);
     practice::PracticeMac practice(companion.root());
