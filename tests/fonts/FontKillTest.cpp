@@ -14,10 +14,6 @@ struct Killed {};
 
 class FontKills : public FontStage {
 protected:
-    void change(const std::string& style) {
-        style.empty() ? fonts().resetAllFonts() : fonts().applyFont(style);
-    }
-
     /// Changes to the style with a kill before the settings' change of that number, or with a disk that fails
     /// from there on; false when it was over before.
     bool stoppedAt(std::size_t number, bool byKill, const std::string& style) {

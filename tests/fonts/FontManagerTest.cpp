@@ -88,16 +88,15 @@ TEST_F(FontStage, ALockedDatabaseCostsNoCapitals) {
         for (const std::vector<const char*>& locked :
              {std::vector<const char*>{kCaps}, {kBold}, {""}, {kBold, kCaps, kBold}})
             for (const char* after : {"", kScript, kCaps}) {
-                const auto change = [&](const char* style) {
-                    *style ? fonts().applyFont(style) : fonts().resetAllFonts();
-                };
-                std::ranges::for_each(before, change);
+                for (const char* style : before)
+                    change(style);
                 const Titles shown = titles();
                 {
                     auto other =
                         sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
                     ASSERT_TRUE(other && other->execute("BEGIN EXCLUSIVE TRANSACTION"));
-                    std::ranges::for_each(locked, change);
+                    for (const char* style : locked)
+                        change(style);
                     for (const std::int64_t row : folders)
                         EXPECT_EQ(folderTitle(row), shown.at("folder " + std::to_string(row)));
                 }

@@ -69,6 +69,11 @@ protected:
 
     FontManager& fonts() { return program->fonts; }
 
+    /// No style is the reset.
+    void change(const std::string& style) {
+        style.empty() ? fonts().resetAllFonts() : fonts().applyFont(style);
+    }
+
     bool execute(const std::string& sql) {
         auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
         return database && database->execute(sql.c_str());
