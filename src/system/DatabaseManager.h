@@ -17,7 +17,7 @@ class SettingsManager;
 class UnsupportedAppsManager;
 struct Mac;
 
-/// The only reader and writer of the Launchpad database, which belongs to the Dock. Each operation opens a
+/// Reads and writes the Launchpad database, which belongs to the Dock; titles aside. Each operation opens a
 /// connection of its own, without a busy timeout, and closes it: a locked database fails at once. Background
 /// thread only. Nothing is kept between calls.
 class DatabaseManager {
