@@ -52,10 +52,10 @@ std::string plainLabel(const std::string& label, const std::string& url, const F
     const MacPath bundle = pathOf(url);
     if (isWrapperPath(bundle) && !bundle.stem().empty())
         return bundle.stem();
-    const std::string plain = replacer.convertToNormal(label);
+    std::string plain = replacer.convertToNormal(label);
     if (!hasLostCapitals(label, plain, replacer))
         return plain;
-    const std::string fileName = bundleName(bundle);
+    std::string fileName = bundleName(bundle);
     return isSameIgnoringCase(fileName, plain) ? fileName : plain;
 }
 
