@@ -9,7 +9,8 @@ bool isSafePathComponent(std::string_view name) {
         return false;
     while (!name.empty()) {
         const auto point = takeCodePoint(name);
-        if (!point || *point == U'/' || *point < 0x20 || (*point >= 0x7F && *point <= 0x9F))
+        if (!point || *point == U'/' || *point < 0x20 || (*point >= 0x7F && *point <= 0x9F) ||
+            *point == 0xFFFE || *point == 0xFFFF)
             return false;
     }
     return true;

@@ -85,7 +85,7 @@ TEST(PathComponent, TellsSafeNamesFromUnsafeOnes) {
         EXPECT_TRUE(isSafePathComponent(name)) << testing::PrintToString(name);
 
     const std::string unsafe[] = {"", ".", "..", "../etc", "a/b", "/", "-rf", std::string("a\0b", 3), "a\nb",
-                                  "\x7F", "\u0085", std::string(256, 'x'),
+                                  "\x7F", "\u0085", "a\uFFFF", "\uFFFE", std::string(256, 'x'),
                                   // No UTF-8: cut short, "/" in two and in three bytes, half a surrogate pair,
                                   // beyond the last code point.
                                   "\xC3", "\x80", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80",
