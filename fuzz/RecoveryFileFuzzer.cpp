@@ -1,5 +1,6 @@
 #include "changes/RecoveryFile.h"
 #include "changes/StagedChangesCoding.h"
+#include "fonts/FontReplacer.h"
 #include "icons/IconCache.h"
 #include "icons/IconStore.h"
 #include "model/SettingsManager.h"
@@ -20,6 +21,7 @@ struct Diskless {
     SettingsManager settings{practice.mac()};
     IconCache cache{practice.mac().files};
     IconStore store{practice.mac().files, settings, cache};
+    FontReplacer fonts;
 };
 
 void require(bool holds) {
@@ -37,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!root)
         return 0;
     std::vector<std::string> remarks;
-    const StagedChanges staged = decodeStagedChanges(*root, mac.store, remarks);
+    const StagedChanges staged = decodeStagedChanges(*root, mac.store, mac.fonts, remarks);
     for (const auto& [bundleID, change] : staged.pendingChanges) {
         require(isSafePathComponent(bundleID));
         require(std::ranges::all_of(change.iconPaths,
@@ -50,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto encoded = encodeStagedChanges(staged, Date{1});
     require(bool(plist::serialize(encoded, plist::Format::xml)));
     remarks.clear();
-    require(decodeStagedChanges(encoded, mac.store, remarks) == staged);
+    require(decodeStagedChanges(encoded, mac.store, mac.fonts, remarks) == staged);
     require(remarks.empty());
     return 0;
 }

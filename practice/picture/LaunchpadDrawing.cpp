@@ -161,12 +161,18 @@ void FoldersDrawing::drawPanel(Easel& easel, const Panel& panel, double top) con
     const Look& look = easel.look();
     const std::string name = folder.title.empty() ? "Folder without a title" : "Folder: " + folder.title;
     const QRectF bounds = panel.bounds.translated(0, top);
-    const QString heading = QString::fromStdString(name);
-    const QFont headingFont = Look::fontFor(heading, look.headingFont);
-    easel.drawText({bounds.left() + 24, bounds.top() + 24}, heading, headingFont, look.title);
-    easel.drawText(
-        {bounds.left() + 24 + QFontMetricsF(headingFont).horizontalAdvance(heading) + 10, bounds.top() + 24},
-        QStringLiteral("page %1, place %2").arg(panel.page).arg(panel.place), look.captionFont, look.caption);
+    double x = bounds.left() + 24;
+    const auto write = [&](const QString& text, const QFont& font, const QColor& colour) {
+        easel.drawText({x, bounds.top() + 24}, text, font, colour);
+        x += QFontMetricsF(font).horizontalAdvance(text);
+    };
+    // The name alone in the family of its style, which has other weights than the heading's.
+    const QString title = QString::fromStdString(folder.title);
+    write(title.isEmpty() ? QStringLiteral("Folder without a title") : QStringLiteral("Folder: "),
+          look.headingFont, look.title);
+    write(title, Look::fontFor(title, look.headingFont), look.title);
+    x += 10;
+    write(QStringLiteral("page %1, place %2").arg(panel.page).arg(panel.place), look.captionFont, look.caption);
     easel.drawPanel(bounds.adjusted(0, kHeading - kHeadingOverlap, 0, 0), 26);
 
     const std::size_t columns = columnsOf(folder);

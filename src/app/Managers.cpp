@@ -18,6 +18,6 @@ Managers::Managers(Mac& mac)
       hiddenThemeIcons(mac.defaults),
       iconTransfer(mac.files, settings, iconStore),
       apps(launchpadDatabase, settings, wrappers, iconStore, iconCache),
-      pendingChanges(mac, settings, iconStore, iconTransfer, notificationCenter) {}
+      pendingChanges(mac, settings, fonts.fontReplacer(), iconStore, iconTransfer, notificationCenter) {}
 
 } // namespace tavrik

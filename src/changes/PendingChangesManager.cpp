@@ -1,5 +1,6 @@
 #include "changes/PendingChangesManager.h"
 
+#include "fonts/FontReplacer.h"
 #include "icons/IconFiles.h"
 #include "icons/IconStore.h"
 #include "icons/PlainFolders.h"
@@ -52,11 +53,13 @@ const std::array<std::string_view, 6> PendingChangesManager::magicPhrases = {
     "Brewing changes...",   "Sprinkling magic dust...", "Waving magic wand...",
 };
 
-PendingChangesManager::PendingChangesManager(Mac& mac, SettingsManager& settings, IconStore& store,
-                                             IconTransfer& transfer, NotificationCenter& notifications)
+PendingChangesManager::PendingChangesManager(Mac& mac, SettingsManager& settings, const FontReplacer& fonts,
+                                             IconStore& store, IconTransfer& transfer,
+                                             NotificationCenter& notifications)
     : m_files(mac.files),
       m_clock(mac.clock),
       m_settings(settings),
+      m_fonts(fonts),
       m_store(store),
       m_transfer(transfer),
       m_notifications(notifications),
@@ -243,8 +246,10 @@ void PendingChangesManager::deleteTheme(const std::string& themeID) {
 
 void PendingChangesManager::setPendingFont(const std::optional<std::string>& font) {
     assertOnMainThread("Staging a font");
-    if (font && !areSafe({*font}))
+    if (font && !m_fonts.hasFont(*font)) {
+        log("⚠️ Refusing a font that there is not: " + *font);
         return;
+    }
     m_staged.pendingFont = font;
     if (font)
         m_staged.pendingReset = false;

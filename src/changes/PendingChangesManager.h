@@ -18,6 +18,7 @@ namespace tavrik {
 
 class Clock;
 class FileManager;
+class FontReplacer;
 class IconStore;
 class IconTransfer;
 class NotificationCenter;
@@ -41,8 +42,8 @@ inline constexpr std::string_view kPendingChangesUpdated = "PendingChangesUpdate
 /// A recovery file of an earlier session that could not be recovered is put aside before the first write.
 class PendingChangesManager {
 public:
-    PendingChangesManager(Mac& mac, SettingsManager& settings, IconStore& store, IconTransfer& transfer,
-                          NotificationCenter& notifications);
+    PendingChangesManager(Mac& mac, SettingsManager& settings, const FontReplacer& fonts, IconStore& store,
+                          IconTransfer& transfer, NotificationCenter& notifications);
 
     /// Texts for the progress of an apply.
     static const std::array<std::string_view, 6> magicPhrases;
@@ -88,7 +89,8 @@ public:
     void deleteThemeIcon(const std::string& themeID, const std::string& iconFileName);
     void deleteTheme(const std::string& themeID);
 
-    /// A font and a reset exclude each other: staging one takes the other back. Nothing takes the font back.
+    /// A font and a reset exclude each other: staging one takes the other back. Nothing takes the font back. A
+    /// name that is no style's is refused.
     void setPendingFont(const std::optional<std::string>& font);
     void setPendingReset(bool reset);
 
@@ -138,6 +140,7 @@ private:
     FileManager& m_files;
     Clock& m_clock;
     SettingsManager& m_settings;
+    const FontReplacer& m_fonts;
     IconStore& m_store;
     IconTransfer& m_transfer;
     NotificationCenter& m_notifications;

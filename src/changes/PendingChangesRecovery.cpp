@@ -45,7 +45,7 @@ bool PendingChangesManager::hasRecoverableChanges() const {
         return false;
     }
     std::vector<std::string> remarks; // the recovery logs them
-    const StagedChanges staged = decodeStagedChanges(*root, m_store, remarks);
+    const StagedChanges staged = decodeStagedChanges(*root, m_store, m_fonts, remarks);
     log("   📊 Found in recovery file:");
     log("      - Icon changes: " + std::to_string(staged.pendingChanges.size()));
     log("      - Theme hides: " + std::to_string(staged.pendingThemeIconHides.size()));
@@ -78,7 +78,7 @@ bool PendingChangesManager::recover() {
         return failed(root.error());
 
     std::vector<std::string> remarks;
-    StagedChanges recovered = decodeStagedChanges(*root, m_store, remarks);
+    StagedChanges recovered = decodeStagedChanges(*root, m_store, m_fonts, remarks);
     for (const std::string& remark : remarks)
         log(remark);
 

@@ -1,5 +1,6 @@
 #include "changes/StagedChangesCoding.h"
 
+#include "fonts/FontReplacer.h"
 #include "icons/IconStore.h"
 #include "platform/PathComponent.h"
 
@@ -51,9 +52,11 @@ std::string printable(std::string_view name) {
 /// Reads the keys one after the other; what it refuses becomes a remark.
 class Decoder {
 public:
-    Decoder(const plist::Dictionary& root, const IconStore& store, std::vector<std::string>& remarks)
+    Decoder(const plist::Dictionary& root, const IconStore& store, const FontReplacer& fonts,
+            std::vector<std::string>& remarks)
         : m_root(root),
           m_store(store),
+          m_fonts(fonts),
           m_remarks(remarks) {}
 
     StagedChanges decode() {
@@ -101,8 +104,12 @@ public:
                     staged.unfinished.insert(bundleID);
             }
         }
-        if (const auto* font = entryOf<std::string>(kPendingFont); font && isSafe(*font, "font"))
-            staged.pendingFont = *font;
+        if (const auto* font = entryOf<std::string>(kPendingFont)) {
+            if (m_fonts.hasFont(*font))
+                staged.pendingFont = *font;
+            else
+                refuse("font", *font);
+        }
         if (const auto* reset = entryOf<bool>(kPendingReset); reset && *reset) {
             if (staged.pendingFont)
                 refuse("reset beside the font", *staged.pendingFont);
@@ -153,7 +160,7 @@ private:
             refuse("icon path", bundleID);
             return std::nullopt;
         }
-        const MacPath path(*text);
+        MacPath path(*text);
         if (m_store.ownsPath(path, bundleID))
             return path;
         m_remarks.push_back("⚠️ Warning: Path marked as pending but not in pending directory: " +
@@ -231,6 +238,7 @@ private:
 
     const plist::Dictionary& m_root;
     const IconStore& m_store;
+    const FontReplacer& m_fonts;
     std::vector<std::string>& m_remarks;
 };
 
@@ -274,8 +282,8 @@ plist::Dictionary encodeStagedChanges(const StagedChanges& staged, Date timestam
 }
 
 StagedChanges decodeStagedChanges(const plist::Dictionary& root, const IconStore& store,
-                                  std::vector<std::string>& remarks) {
-    return Decoder(root, store, remarks).decode();
+                                  const FontReplacer& fonts, std::vector<std::string>& remarks) {
+    return Decoder(root, store, fonts, remarks).decode();
 }
 
 } // namespace tavrik

@@ -9,6 +9,7 @@
 
 namespace tavrik {
 
+class FontReplacer;
 class IconStore;
 
 /// Staged changes as the property list of the recovery file. Pure; any thread.
@@ -24,6 +25,6 @@ plist::Dictionary encodeStagedChanges(const StagedChanges& staged, Date timestam
 /// says so in `remarks`. An index that is no number of a place counts as none. Whether the files are there is
 /// not looked at.
 StagedChanges decodeStagedChanges(const plist::Dictionary& root, const IconStore& store,
-                                  std::vector<std::string>& remarks);
+                                  const FontReplacer& fonts, std::vector<std::string>& remarks);
 
 } // namespace tavrik

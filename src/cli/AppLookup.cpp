@@ -28,6 +28,7 @@ Result<ApplicationInfo> findApp(const std::vector<ApplicationInfo>& apps, const 
             "programs that use it and try again."};
     }
     std::vector<NearName> names;
+    names.reserve(apps.size());
     for (const ApplicationInfo& app : apps)
         names.push_back({distance(bundleID, app), app.bundleID});
     std::string hint = hintOf(std::move(names), bundleID);

@@ -31,7 +31,8 @@ Result<StagedOnDisk> lookAtStaged(Companion& companion) {
     if (!root)
         return Error{unreadable(file.path(), root.error().description + ".")};
     std::vector<std::string> remarks;
-    StagedOnDisk staged{.changes = decodeStagedChanges(*root, companion.managers().iconStore, remarks),
+    StagedOnDisk staged{.changes = decodeStagedChanges(*root, companion.managers().iconStore,
+                                                       companion.managers().fonts.fontReplacer(), remarks),
                         .timestamp = {},
                         .isThere = true};
     for (const std::string& remark : remarks)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "changes/PendingChangesManager.h"
+#include "fonts/FontReplacer.h"
 #include "icons/IconCache.h"
 #include "icons/IconFiles.h"
 #include "icons/IconStore.h"
@@ -29,9 +30,10 @@ struct Program {
           cache(mac.files),
           store(mac.files, settings, cache),
           transfer(mac.files, settings, store),
-          changes(mac, settings, store, transfer, notifications) {}
+          changes(mac, settings, fonts, store, transfer, notifications) {}
 
     SettingsManager settings;
+    FontReplacer fonts;
     IconCache cache;
     IconStore store;
     IconTransfer transfer;

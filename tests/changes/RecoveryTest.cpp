@@ -165,7 +165,7 @@ TEST_F(Recovery, HostileFilesReachNothingOutside) {
         {{{"themeIconHides", Array{hide, "x"}}}, refused + "theme identifier: ../x"},
         {{{"pendingThemeIconDeletions", Dictionary{{"..", Array{"a"}}, {"x", Array{"../a", 1}}}}}, refused},
         {{{"pendingThemeDeletions", Array{"../x", "a\nb", 1}}}, refused + "theme identifier: a?b"},
-        {{{"pendingFont", "Bold\x7F"}}, refused + "font: "},
+        {{{"pendingFont", "Mathematical bold"}}, refused + "font: "},
         {{{"pendingFont", 1}, {"pendingReset", "true"}}, refused + "value: pendingFont"},
     };
 
