@@ -2,18 +2,36 @@
 
 #include "cli/Companion.h"
 #include "cli/Json.h"
+#include "cli/Staged.h"
 #include "cli/Table.h"
 
 namespace tavrik {
+
+namespace {
+
+/// As the rows would show them, staged changes included; without those when they cannot be read.
+void addIcons(Companion& companion, std::vector<ApplicationInfo>& apps) {
+    const auto staged = lookAtStaged(companion);
+    if (!staged)
+        companion.complain(staged.error().description);
+    const StagedChanges changes = staged ? staged->changes : StagedChanges();
+    companion.onMain([&] {
+        for (ApplicationInfo& app : apps)
+            setIconRow(app, companion.managers().pendingChanges.iconRow(app.bundleID, changes));
+    });
+}
+
+} // namespace
 
 ExitCode AppsCommand::run(Companion& companion) {
     if (const ExitCode opened = companion.open(Access::reading); opened != ExitCode::done)
         return opened;
     Managers& managers = companion.managers();
-    const std::vector<ApplicationInfo> apps = managers.apps.loadApplications();
+    std::vector<ApplicationInfo> apps = managers.apps.loadApplications();
     if (apps.empty())
         return companion.fail(
             "The Launchpad database lists no application, or could not be read; it may be locked.");
+    addIcons(companion, apps);
     if (json) {
         companion.say(jsonText(toJson(apps)));
         return ExitCode::done;
@@ -27,6 +45,8 @@ ExitCode AppsCommand::run(Companion& companion) {
                 remarks += (remarks.empty() ? "" : ", ") + std::string(words);
         };
         remark(mappings.contains(app.bundleID), "restyled");
+        remark(!app.permanentIconPaths.empty(), "has icons");
+        remark(!app.pendingAdditionPaths.empty(), "icons staged");
         remark(app.isIOSApp, "iOS app");
         remark(app.isUnsupportedApp, "cannot be restyled");
         table.add({app.name, app.bundleID, app.path.string(), remarks});
