@@ -3,62 +3,60 @@
 #include "model/SettingsManager.h"
 #include "platform/Bookmarks.h"
 #include "platform/PathRules.h"
+#include "platform/practice/Layout.h"
+#include "practice/session/VirtualSession.h"
 #include "support/LogRecorder.h"
 #include "support/SmallMac.h"
+#include "system/LaunchpadManager.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cerrno>
-#include <cmath>
-#include <functional>
 
 namespace tavrik::test {
 
 namespace {
 
-using plist::Array;
-using plist::Dictionary;
-using plist::Value;
-using testing::IsEmpty;
-using testing::UnorderedElementsAre;
+using namespace plist;
+using testing::ElementsAre;
 
-const MacPath kHome{"/Users/practice"};
-const MacPath kPlist = dockPreferencesPath(kHome);
-const MacPath kBackup = dockPreferencesBackupPath(kHome);
+const MacPath kPlist = dockPreferencesPath(practice::kHome);
+const MacPath kBackup = dockPreferencesBackupPath(practice::kHome);
 const MacPath kAtlas{"/Applications/Atlas.app"};
-const MacPath kWrapper = wrapperFolder(kHome) / "Atlas.app";
+const MacPath kWrapper = wrapperFolder(practice::kHome) / "Atlas.app";
 const std::string kID = "org.example.atlas";
 
 Value tile(Dictionary data) {
     return Dictionary{{"GUID", 4266038770}, {"tile-data", std::move(data)}, {"tile-type", "file-tile"}};
 }
 
-class DockManagerTest : public testing::Test {
-protected:
+struct DockManagerTest : testing::Test {
     DockManagerTest() {
         for (const MacPath& folder : {kAtlas, kWrapper, kPlist.parent()})
             EXPECT_TRUE(mac.files.createFolder(folder));
         writePreferences(sample());
     }
 
-    /// Preferences with everything odd that real files have in front of the tile that is looked for.
-    Value sample() const {
-        const Bytes book = *mac.mac.bookmarks.make(kAtlas);
+    Bytes bookmark(const MacPath& bundle) { return *mac.mac.bookmarks.make(bundle); }
+
+    /// Everything odd that real files have, in front of the tile that is looked for.
+    Value sample(const MacPath& target = kAtlas, int writes = 0, const Value& date = Dictionary{}) {
         return Dictionary{
-            {"mod-count", 41},
-            {"tilesize", 48.5},
+            {"mod-count", 41 + writes},
             {"persistent-others", Array{tile({{"bundle-identifier", kID}})}},
             {"persistent-apps",
-             Array{Value("no tile"), tile({{"file-label", ""}}), Dictionary{{"tile-data", 7}},
+             Array{Value("no tile"), tile({{"file-label", ""}}), Dictionary{{"tile-data", 7.5}},
                    tile({{"bundle-identifier", Dictionary{}}, {"book", 3}}),
                    tile({{"bundle-identifier", kID},
-                         {"book", book},
-                         {"file-data", Dictionary{{"_CFURLString", "file:///Applications/Atlas.app/"},
-                                                  {"_CFURLStringType", 15}}},
-                         {"file-mod-date", Dictionary{}},
+                         {"book", bookmark(target)},
+                         {"file-data", Dictionary{{"_CFURLString", "file://" + target.string() + "/"}}},
+                         {"file-mod-date", date},
                          {"file-label", "Atlas"}}),
-                   tile({{"bundle-identifier", kID}, {"book", book}})}}};
+                   tile({{"bundle-identifier", kID}, {"book", bookmark(kAtlas)}})}}};
+    }
+
+    Value dateOf(const MacPath& bundle) {
+        return static_cast<std::int64_t>(mac.mac.files.attributes(bundle)->modified.sinceReference);
     }
 
     void writePreferences(const Value& preferences) {
@@ -69,19 +67,6 @@ protected:
 
     Value preferences() { return *plist::parse(content(kPlist)); }
 
-    /// The sample as it must be when its tile leads to this bundle and the file was written `writes` times.
-    Value expected(const MacPath& target, int writes, const Bytes& book) {
-        Value wanted = sample();
-        Dictionary& data =
-            *(*wanted.find("persistent-apps")->as<Array>())[4].find("tile-data")->as<Dictionary>();
-        data["book"] = book;
-        (*data["file-data"].as<Dictionary>())["_CFURLString"] = mac.mac.bookmarks.fileURL(target);
-        data["file-mod-date"] = static_cast<std::int64_t>(
-            std::floor(mac.practice.mac().files.attributes(target)->modified.sinceReference));
-        *wanted.find("mod-count") = 41 + writes;
-        return wanted;
-    }
-
     SmallMac mac;
     SettingsManager settings{mac.mac};
     DockManager dock{mac.mac, settings};
@@ -90,85 +75,58 @@ protected:
 
 } // namespace
 
-TEST_F(DockManagerTest, RepointsTheFirstMatchingTileAndNothingElse) {
+TEST_F(DockManagerTest, RepointsTheFirstMatchingTileAndPutsItBackAndNothingElse) {
     const Bytes before = content(kPlist);
-    int writes = 0;
-    mac.files.setRule([&](const FileOperation& operation) -> std::optional<int> {
-        if (operation.name == "write" && operation.path == kPlist) {
-            ++writes;
-            EXPECT_TRUE(SettingsManager(mac.practice.mac()).getDockBookmark(kID))
-                << "safe before the tile loses it";
-        }
-        return std::nullopt;
-    });
     ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
-
-    EXPECT_EQ(preferences(), expected(kWrapper, 1, *mac.mac.bookmarks.make(kWrapper)));
+    EXPECT_EQ(preferences(), sample(kWrapper, 1, dateOf(kWrapper)));
+    EXPECT_THAT(dock.dockApps(), ElementsAre(DockApp{kID, kWrapper}, DockApp{kID, kAtlas}));
     EXPECT_TRUE(textOf(content(kPlist)).starts_with("bplist00"));
     EXPECT_EQ(content(kBackup), before);
-    EXPECT_EQ(writes, 1);
-}
+    EXPECT_THAT(mac.files.journal(), testing::Contains("write " + kPlist.string()).Times(1));
 
-TEST_F(DockManagerTest, KeepsTheVeryFirstBookmarkAndPutsItBack) {
-    const Bytes first = *mac.mac.bookmarks.make(kAtlas);
-    ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
     ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
     ASSERT_TRUE(settings.getDockBookmark(kID));
-    EXPECT_EQ(settings.getDockBookmark(kID)->bookmark, first);
-
+    EXPECT_EQ(settings.getDockBookmark(kID)->bookmark, bookmark(kAtlas));
     ASSERT_TRUE(dock.restoreDockEntry(kID));
-    Value wanted = expected(kAtlas, 3, first);
-    *(*wanted.find("persistent-apps")->as<Array>())[4].find("tile-data")->find("file-mod-date") = Dictionary{};
-    EXPECT_EQ(preferences(), wanted);
+    EXPECT_EQ(preferences(), sample(kAtlas, 3));
     EXPECT_FALSE(settings.getDockBookmark(kID));
     EXPECT_FALSE(dock.restoreDockEntry(kID));
     EXPECT_TRUE(log.has("No original bookmark found for " + kID));
-}
 
-TEST_F(DockManagerTest, PointsATileAtTheOriginalByForceAndNeverSavesAWrappersBookmark) {
+    writePreferences(sample(kWrapper));
     ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
-    settings.removeDockBookmark(kID);
-    ASSERT_TRUE(dock.updateDockEntry(kID, kWrapper));
-    EXPECT_FALSE(settings.getDockBookmark(kID));
+    EXPECT_FALSE(settings.getDockBookmark(kID)) << "a wrapper's is never saved";
     ASSERT_TRUE(dock.forceRestoreDockEntry(kID, kAtlas));
-    EXPECT_EQ(preferences(), expected(kAtlas, 3, *mac.mac.bookmarks.make(kAtlas)));
+    EXPECT_EQ(preferences(), sample(kAtlas, 2, dateOf(kAtlas)));
 }
 
 TEST_F(DockManagerTest, LeavesThePreferencesAloneWhenAnythingFails) {
-    struct Case {
-        std::string line;
-        std::function<void()> arrange;
-        MacPath target = kWrapper;
-        std::string bundleID = kID;
-    };
-
-    const auto fail = [&](const char* operation, const MacPath& path) {
-        return [this, operation, path] { mac.files.failOn(operation, path, EIO); };
-    };
     const MacPath nothing("/Applications/Nothing.app");
-    const std::vector<Case> cases{
-        {"ERROR: Tavrik app doesn't exist at " + nothing.string(), [] {}, nothing},
-        {"App org.example.other not found in Dock", [] {}, kWrapper, "org.example.other"},
-        {"Failed to read Dock plist", fail("read", kPlist)},
-        {"No persistent-apps found in Dock plist",
-         [&] { writePreferences(Dictionary{{"persistent-apps", 3}}); }},
-        {"Failed to read Dock plist: the file holds no dictionary", [&] { writePreferences(Array{}); }},
-        {"ERROR: Failed to save original Dock bookmark for " + kID, fail("replace", {})},
-        {"Updated Dock entry for " + kID + " to use tavrik app", fail("write", kPlist)},
+    EXPECT_FALSE(dock.updateDockEntry(kID, nothing));
+    EXPECT_TRUE(log.has("ERROR: Tavrik app doesn't exist at " + nothing.string()));
+    EXPECT_FALSE(dock.forceRestoreDockEntry(kID, nothing));
+    EXPECT_EQ(preferences(), sample());
+
+    // The application, the preferences, the operation that fails, and a line of the log.
+    const std::tuple<std::string, Value, const char*, std::string> cases[] = {
+        {"org.example.other", sample(), "", "App org.example.other not found in Dock"},
+        {kID, sample(), "read", "Failed to read Dock plist"},
+        {kID, Dictionary{{"persistent-apps", 3}}, "", "No persistent-apps found in Dock plist"},
+        {kID, Array{}, "", "Failed to read Dock plist: the file holds no dictionary"},
+        {kID, sample(), "replace", "ERROR: Failed to save original Dock bookmark for " + kID},
+        {kID, sample(), "write", "Updated Dock entry for " + kID + " to use tavrik app"},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.line);
-        writePreferences(sample());
-        each.arrange();
+    for (const auto& [id, written, operation, line] : cases) {
+        writePreferences(written);
         const Bytes before = content(kPlist);
-        log.clear();
-        EXPECT_FALSE(dock.updateDockEntry(each.bundleID, each.target));
-        EXPECT_FALSE(dock.forceRestoreDockEntry(kID, nothing));
-        EXPECT_TRUE(log.has(each.line));
-        EXPECT_EQ(content(kPlist), before);
+        mac.files.failOn(operation, {}, EIO);
+        EXPECT_FALSE(dock.updateDockEntry(id, kWrapper));
         mac.files.failNothing();
+        EXPECT_TRUE(log.has(line)) << line;
+        EXPECT_EQ(content(kPlist), before) << line;
+        EXPECT_EQ(log.mentions("Failed to write Dock plist: "), operation == std::string("write"));
+        log.clear();
     }
-    EXPECT_TRUE(log.mentions("Failed to write Dock plist: "));
     EXPECT_TRUE(settings.getDockBookmark(kID)) << "kept, so that a later restore can run";
 }
 
@@ -180,23 +138,41 @@ TEST_F(DockManagerTest, NeverReplacesAGoodBackupByADamagedFile) {
     EXPECT_EQ(content(kBackup), good);
     EXPECT_TRUE(log.mentions("Failed to backup Dock plist: "));
 
-    writePreferences(sample());
+    writePreferences(Dictionary{});
     for (const char* operation : {"create", "replace", "read"}) {
         mac.files.failOn(operation, {}, EIO);
         dock.backupDockPlist();
         mac.files.failNothing();
         EXPECT_EQ(content(kBackup), good) << operation;
     }
-    EXPECT_THAT(*mac.mac.files.list(kPlist.parent()), UnorderedElementsAre(kPlist.name(), kBackup.name()));
+    EXPECT_THAT(*mac.mac.files.list(kPlist.parent()),
+                testing::UnorderedElementsAre(kPlist.name(), kBackup.name()));
 }
 
-TEST_F(DockManagerTest, ListsTheTilesThatAreApplications) {
-    EXPECT_THAT(dock.dockApps(), testing::ElementsAre(DockApp{kID, kAtlas}, DockApp{kID, kAtlas}));
-    EXPECT_FALSE(dock.isAppInDock("org.example.other"));
+TEST_F(DockManagerTest, ListsNoTargetForATileThatLeadsNowhereAndNoTileWithoutPreferences) {
     ASSERT_TRUE(mac.mac.files.remove(kAtlas));
     EXPECT_EQ(dock.dockApps().front(), (DockApp{kID, MacPath()}));
     ASSERT_TRUE(mac.mac.files.remove(kPlist));
-    EXPECT_THAT(dock.dockApps(), IsEmpty());
+    EXPECT_THAT(dock.dockApps(), ElementsAre());
+}
+
+TEST_F(DockManagerTest, SyncsThePreferencesBeforeItKillsTheDockEvenWhenNoToolCanBeStarted) {
+    using namespace std::chrono_literals;
+    practice::VirtualSession session(mac.folder.path(), mac.clock);
+    practice::PracticeMac practice(mac.folder.path(), {.clock = &mac.clock, .tools = &session});
+    DockManager synced(practice.mac(), settings);
+    LaunchpadManager(practice.mac(), synced).restartDock();
+    EXPECT_EQ(textOf(content(practice::kToolJournal)),
+              "800000000.000\t/usr/bin/touch\t" + kPlist.string() +
+                  "\n800000000.100\t/usr/bin/defaults\twrite\tcom.apple.dock\tRecentlyUsedApps\t-bool\ttrue\n"
+                  "800000000.400\t/usr/bin/killall\tDock\n");
+    EXPECT_EQ(textOf(content(practice::kNotificationJournal)),
+              "800000000.000\tcom.apple.dock.prefchanged\n800000000.000\tcom.apple.dock.refreshItems\n"
+              "800000000.200\tcom.apple.dock.prefchanged\n800000000.200\tcom.apple.dock.refreshItems\n");
+
+    mac.clock.forgetWaits();
+    LaunchpadManager(mac.mac, dock).restartDock();
+    EXPECT_THAT(mac.clock.waits(), ElementsAre(100ms, 100ms, 200ms));
 }
 
 } // namespace tavrik::test

@@ -39,12 +39,10 @@ protected:
 
     void addRow(std::int64_t row, const std::string& title, std::optional<std::string> identifier,
                 std::optional<int> flags, std::optional<Bytes> bookmark) {
-        run("UPDATE dbinfo SET value='1'");
-        auto item = connection->prepare("INSERT INTO items VALUES (?1, 'uuid', ?2, 4, 100 + ?1, ?1)");
-        item.bind(1, row);
-        item.bind(2, flags);
-        EXPECT_EQ(item.step(), sqlite::Step::done);
-        run("UPDATE dbinfo SET value='0'");
+        const std::string number = std::to_string(row);
+        run("UPDATE dbinfo SET value='1'; INSERT INTO items VALUES (" + number + ", 'uuid', " +
+            (flags ? std::to_string(*flags) : "NULL") + ", 4, 100 + " + number + ", " + number +
+            "); UPDATE dbinfo SET value='0'");
         auto app = connection->prepare("INSERT INTO apps VALUES (?, ?, ?, NULL, NULL, 0, ?)");
         app.bind(1, row);
         app.bind(2, std::string_view(title));
@@ -53,11 +51,6 @@ protected:
         if (bookmark)
             app.bind(4, ByteView(*bookmark));
         EXPECT_EQ(app.step(), sqlite::Step::done);
-    }
-
-    std::string triggerKey() {
-        auto key = connection->prepare("SELECT value FROM dbinfo");
-        return key.step() == sqlite::Step::row ? key.text(0).value_or("NULL") : "none";
     }
 
     SmallMac small;

@@ -17,7 +17,8 @@ protected:
     void expectUnchanged() {
         EXPECT_EQ(database.placement(RowID{1}), first);
         EXPECT_EQ(database.placement(RowID{2}), second);
-        EXPECT_EQ(triggerKey(), "0");
+        auto key = connection->prepare("SELECT value FROM dbinfo");
+        EXPECT_TRUE(key.step() == sqlite::Step::row && key.text(0) == "0") << "the triggers are on";
     }
 
     const ItemPlacement first{std::nullopt, RowID{101}, 1};
@@ -41,21 +42,15 @@ TEST_F(PlacementSwapTest, RollsBackAndSaysWhy) {
         return "CREATE TRIGGER sabotage BEFORE UPDATE ON " + when + " BEGIN SELECT RAISE(ABORT, 'no'); END";
     };
 
-    struct Case {
-        std::string sabotage;
-        RowID other;
-        const char* error;
-    };
-
     const std::string rolledBack = "Database swap failed, rolled back: Error Domain=DatabaseManager ";
-    for (const auto& [sabotage, other, error] : {
-             Case{failing("dbinfo WHEN new.value = '1'"), RowID{2}, "Code=1 \"Failed to disable triggers\""},
-             Case{"", RowID{9}, "Code=2 \"Failed to read app data\""},
-             Case{failing("items WHEN old.rowid = 1"), RowID{2}, "Code=3 \"Failed to update app1\""},
-             Case{failing("items WHEN old.rowid = 2"), RowID{2}, "Code=4 \"Failed to update app2\""},
-             Case{failing("dbinfo WHEN new.value = '0'"), RowID{2}, "Code=5 \"Failed to re-enable triggers\""},
-             Case{"BEGIN IMMEDIATE", RowID{2}, "Code=1 \"Failed to disable triggers\""},
-         }) {
+    using Case = std::tuple<std::string, RowID, const char*>;
+    for (const auto& [sabotage, other, error] :
+         {Case{failing("dbinfo WHEN new.value = '1'"), RowID{2}, "Code=1 \"Failed to disable triggers\""},
+          Case{"", RowID{9}, "Code=2 \"Failed to read app data\""},
+          Case{failing("items WHEN old.rowid = 1"), RowID{2}, "Code=3 \"Failed to update app1\""},
+          Case{failing("items WHEN old.rowid = 2"), RowID{2}, "Code=4 \"Failed to update app2\""},
+          Case{failing("dbinfo WHEN new.value = '0'"), RowID{2}, "Code=5 \"Failed to re-enable triggers\""},
+          Case{"BEGIN IMMEDIATE", RowID{2}, "Code=1 \"Failed to disable triggers\""}}) {
         run(sabotage);
         log.clear();
         EXPECT_FALSE(database.swapItemPlacement(RowID{1}, other));

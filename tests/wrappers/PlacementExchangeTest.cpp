@@ -2,8 +2,6 @@
 
 #include "system/LaunchpadSample.h"
 
-#include <functional>
-
 namespace tavrik::test {
 
 namespace {
@@ -13,9 +11,11 @@ constexpr RowID kOriginal{1};
 constexpr RowID kWrapper{2};
 
 /// The original on page 101, its wrapper on page 102, a stranger on page 103.
-class PlacementExchangeTest : public LaunchpadSample {
-protected:
-    PlacementExchangeTest() {
+struct PlacementExchangeTest : LaunchpadSample {
+    PlacementExchangeTest() { fill(); }
+
+    void fill() {
+        run("DELETE FROM apps; DELETE FROM items");
         addApp(1, "Atlas", kID, 0, MacPath("/Applications/Atlas.app"));
         addApp(2, "Atlas", kID, 0, MacPath("/Users/practice/Applications/Tavrik/Atlas.app"));
         addApp(3, "Beacon", "org.example.beacon", 0, MacPath("/Applications/Beacon.app"));
@@ -42,36 +42,24 @@ TEST_F(PlacementExchangeTest, ExchangesOnceHoweverOftenItIsAsked) {
 }
 
 TEST_F(PlacementExchangeTest, TellsFromTheRowsWhatAnUnfinishedExchangeLeft) {
-    struct Case {
-        const char* what;
-        const char* meanwhile;
-        bool mayGoOn;
-        bool canSwapAgain;
-        std::int64_t originalsPage;
-    };
-
-    const std::vector<Case> cases{
-        {"nothing", "", true, true, 101},
-        {"the system renumbered the pages", "UPDATE items SET ordering = ordering + 7", true, true, 101},
-        {"the wrapper's row is gone", "DELETE FROM apps WHERE item_id = 2", true, false, 102},
-        {"the number belongs to another", "UPDATE apps SET bundleid = 'org.example.other' WHERE item_id = 2",
-         true, false, 102},
-        {"a person moved the wrapper", "UPDATE items SET parent_id = 103 WHERE rowid = 2", true, false, 102},
-        {"the schema is lost", "ALTER TABLE apps RENAME TO programs; DROP TABLE items", false, false, 0},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.what);
-        run("DELETE FROM apps; DELETE FROM items");
-        addApp(1, "Atlas", kID, 0, MacPath("/Applications/Atlas.app"));
-        addApp(2, "Atlas", kID, 0, MacPath("/Users/practice/Applications/Tavrik/Atlas.app"));
+    // What happened meanwhile, whether the program may go on and swap again, and the original's page then.
+    using Case = std::tuple<const char*, bool, bool, int>;
+    for (const auto& [meanwhile, mayGoOn, canSwapAgain, originalsPage] :
+         {Case{"", true, true, 101}, Case{"UPDATE items SET ordering = ordering + 7", true, true, 101},
+          Case{"DELETE FROM apps WHERE item_id = 2", true, false, 102},
+          Case{"UPDATE apps SET bundleid = 'org.example.other' WHERE item_id = 2", true, false, 102},
+          Case{"UPDATE items SET parent_id = 103 WHERE rowid = 2", true, false, 102},
+          Case{"ALTER TABLE apps RENAME TO programs; DROP TABLE items", false, false, 0}}) {
+        SCOPED_TRACE(meanwhile);
+        fill();
         exchange.finish(kID);
         ASSERT_TRUE(exchange.swapIn(kID, kOriginal, kWrapper));
-        run(each.meanwhile);
-        EXPECT_EQ(exchange.swapIn(kID, kOriginal, kWrapper), each.canSwapAgain);
-        EXPECT_EQ(exchange.undoUnfinished(kID), each.mayGoOn);
+        run(meanwhile);
+        EXPECT_EQ(exchange.swapIn(kID, kOriginal, kWrapper), canSwapAgain);
+        EXPECT_EQ(exchange.undoUnfinished(kID), mayGoOn);
         EXPECT_TRUE(exchange.isUnfinished(kID));
         const auto place = database.placement(kOriginal);
-        EXPECT_EQ(place ? place->parentID : RowID{0}, RowID{each.originalsPage});
+        EXPECT_EQ(place ? place->parentID : RowID{0}, RowID{originalsPage});
     }
 }
 

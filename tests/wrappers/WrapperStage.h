@@ -39,18 +39,20 @@ struct Program {
     TavrikAppManager wrappers{mac, settings, database, dock, icons, launchpad, iconSettings};
 };
 
-inline QImage redIcon() {
+inline QImage plainIcon(Qt::GlobalColor colour) {
     QImage icon(64, 64, QImage::Format_ARGB32_Premultiplied);
-    icon.fill(Qt::red);
+    icon.fill(colour);
     return icon;
 }
 
-inline ApplicationInfo application(const std::string& name, const std::string& bundleID,
-                                   const std::string& path) {
+inline QImage redIcon() {
+    return plainIcon(Qt::red);
+}
+
+inline ApplicationInfo application(const std::string& bundleID, const char* bundle) {
+    const MacPath path(bundle);
     ApplicationInfo app;
-    app.name = name;
-    app.bundleID = bundleID;
-    app.path = MacPath(path);
+    std::tie(app.name, app.bundleID, app.path) = std::tuple(path.stem(), bundleID, path);
     return app;
 }
 
@@ -59,8 +61,7 @@ class WrapperStage : public testing::Test {
 protected:
     WrapperStage() { start(); }
 
-    /// The program anew, as after a kill.
-    void start() { program.emplace(mac); }
+    void start() { program.emplace(mac); } ///< anew, as after a kill
 
     TavrikAppManager& wrappers() { return program->wrappers; }
 
@@ -79,12 +80,6 @@ protected:
         return pair;
     }
 
-    /// All rows but this application's.
-    std::vector<LaunchpadItem> otherRows(const ApplicationInfo& app, std::vector<LaunchpadItem> rows) const {
-        std::erase_if(rows, [&](const LaunchpadItem& row) { return row.bundleID == app.bundleID; });
-        return rows;
-    }
-
     static auto placeOf(const LaunchpadItem& row) { return std::tuple(row.parent, row.ordering, row.flags); }
 
     /// The Dock's preferences without what counts changes.
@@ -97,19 +92,15 @@ protected:
     }
 
     /// Where the application's tile leads; empty without one.
-    static MacPath tilePath(const ApplicationInfo& app, const std::vector<PinnedTile>& tiles) {
-        for (const PinnedTile& tile : tiles)
-            if (tile.bundleID == app.bundleID)
-                return tile.path;
-        return MacPath();
+    MacPath tilePath(const ApplicationInfo& app) const {
+        const auto tiles = volume.pinnedTiles();
+        const auto tile = std::ranges::find(tiles, app.bundleID, &PinnedTile::bundleID);
+        return tile == tiles.end() ? MacPath() : tile->path;
     }
-
-    MacPath tilePath(const ApplicationInfo& app) const { return tilePath(app, volume.pinnedTiles()); }
 
     /// The application's row as it was at first.
     const LaunchpadItem& firstRow(const ApplicationInfo& app) const {
-        return *std::find_if(firstRows.begin(), firstRows.end(),
-                             [&](const LaunchpadItem& row) { return row.bundleID == app.bundleID; });
+        return *std::ranges::find(firstRows, app.bundleID, &LaunchpadItem::bundleID);
     }
 
     void expectSwapped(const ApplicationInfo& app) {
@@ -117,14 +108,17 @@ protected:
         ASSERT_TRUE(now.original && now.wrapper);
         EXPECT_EQ(placeOf(*now.wrapper), placeOf(firstRow(app))) << "exactly where the original stood";
         EXPECT_NE(placeOf(*now.original), placeOf(firstRow(app)));
-        EXPECT_EQ(otherRows(app, volume.launchpadItems()), otherRows(app, firstRows));
+        std::vector<LaunchpadItem> others = volume.launchpadItems();
+        std::erase(others, *now.wrapper);
+        *std::ranges::find(others, *now.original) = firstRow(app);
+        EXPECT_EQ(others, firstRows);
 
         const auto mapping = program->settings.getMapping(app.bundleID);
         ASSERT_TRUE(mapping);
-        EXPECT_EQ(mapping->originalRowID, RowID{firstRow(app).row});
-        EXPECT_EQ(mapping->tavrikRowID, RowID{now.wrapper->row});
+        EXPECT_EQ(std::pair(mapping->originalRowID, mapping->tavrikRowID),
+                  std::pair(RowID{now.original->row}, RowID{now.wrapper->row}));
         EXPECT_TRUE(wrappers().hasWrapper(app.bundleID));
-        EXPECT_EQ(tilePath(app), tilePath(app, firstTiles).empty() ? MacPath() : wrapperOf(app));
+        EXPECT_EQ(tilePath(app), app.bundleID == atlas.bundleID ? wrapperOf(app) : MacPath());
         EXPECT_EQ(*mac.files.readLink(wrapperOf(app) / "Contents"), (app.path / "Contents").string());
         EXPECT_EQ(treeOf(volume.host(MacPath("/Applications"))), firstApplications);
     }
@@ -143,8 +137,8 @@ protected:
     }
 
     const MacPath kWrappers = wrapperFolder(practice::kHome);
-    const ApplicationInfo atlas = application("Atlas", "org.example.atlas", "/Applications/Atlas.app");
-    const ApplicationInfo tips = application("Tips", "com.apple.tips", "/System/Applications/Tips.app");
+    const ApplicationInfo atlas = application("org.example.atlas", "/Applications/Atlas.app");
+    const ApplicationInfo tips = application("com.apple.tips", "/System/Applications/Tips.app");
 
     PracticeVolume volume;
     RecordingClock clock;
@@ -158,7 +152,6 @@ protected:
     LogRecorder log;
 
     const std::vector<LaunchpadItem> firstRows = volume.launchpadItems();
-    const std::vector<PinnedTile> firstTiles = volume.pinnedTiles();
     const plist::Value firstPreferences = steadyPreferences();
     const FileTree firstApplications = treeOf(volume.host(MacPath("/Applications")));
 };

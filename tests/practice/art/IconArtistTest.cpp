@@ -1,5 +1,8 @@
 #include "practice/art/IconArtist.h"
 
+#include "practice/art/Glyph.h"
+#include "practice/art/GlyphPath.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -28,19 +31,9 @@ bool looksLikeSquircle(const QImage& icon) {
 
 } // namespace
 
-TEST(IconArtist, OnlySquirclesHaveTheStandardOutlineAtEverySize) {
-    for (int size : {16, 32, 64, 128, 1024}) {
-        for (Outline outline : {Outline::squircle, Outline::round, Outline::square}) {
-            const QImage icon = drawIcon({outline, kBlue.top, kBlue.bottom, kBlue.glyph}, size);
-            EXPECT_EQ(icon.size(), QSize(size, size));
-            EXPECT_EQ(looksLikeSquircle(icon), outline == Outline::squircle) << int(outline) << " at " << size;
-        }
-    }
-}
-
 TEST(IconArtist, EveryGlyphHasItsOwnLookWithinTheCanvasOnAPlateAndWithoutOne) {
     std::set<QByteArray> looks;
-    for (Outline outline : {Outline::squircle, Outline::free}) {
+    for (Outline outline : {Outline::squircle, Outline::round, Outline::square, Outline::free}) {
         std::vector<std::string> glyphs = glyphNames();
         glyphs.insert(glyphs.begin(), "no such glyph");
         for (const std::string& glyph : glyphs) {
@@ -53,4 +46,10 @@ TEST(IconArtist, EveryGlyphHasItsOwnLookWithinTheCanvasOnAPlateAndWithoutOne) {
                     ASSERT_LT(qAlpha(edge), 128) << glyph << " runs over the edge";
         }
     }
+}
+
+TEST(IconArtist, CanReadEveryLayerOfEveryGlyph) {
+    for (const Glyph& glyph : allGlyphs())
+        for (const Layer& layer : glyph.layers)
+            EXPECT_TRUE(parseGlyphPath(layer.path)) << glyph.name << ": " << layer.path;
 }

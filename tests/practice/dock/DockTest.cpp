@@ -18,7 +18,6 @@ namespace tavrik::practice {
 namespace {
 
 using test::LaunchpadItem;
-using test::PracticeVolume;
 using ::testing::SizeIs;
 
 const MacPath kWrappers = kHome / "Applications/Tavrik";
@@ -65,7 +64,7 @@ struct DockTest : testing::Test {
         return std::filesystem::exists(volume.launchpadDatabase().string() + suffix);
     }
 
-    PracticeVolume volume;
+    test::PracticeVolume volume;
     PracticeFileManager files{volume.root()};
 };
 
@@ -153,6 +152,10 @@ TEST_F(DockTest, LeavesTheWriteAheadLogWhenKilledAndNoneWhenItQuits) {
     dock.quit();
     EXPECT_FALSE(stands("-wal") || stands("-shm"));
     EXPECT_TRUE(rowOf(wrapper)) << "what was committed must survive the kill";
+
+    std::filesystem::remove(volume.launchpadDatabase().string());
+    EXPECT_FALSE(Dock(volume.root()).index());
+    EXPECT_FALSE(stands("")) << "none is made where none is";
 }
 
 TEST_F(DockTest, WritesItsCopyOfThePreferencesOnlyWhenItQuits) {
@@ -164,12 +167,6 @@ TEST_F(DockTest, WritesItsCopyOfThePreferencesOnlyWhenItQuits) {
     dock.quit();
     expected.as<plist::Dictionary>()->at("mod-count") = *expected.find<std::int64_t>("mod-count") + 1;
     EXPECT_EQ(volume.dockPreferences(), expected);
-}
-
-TEST_F(DockTest, MakesNoDatabaseWhereNoneIs) {
-    std::filesystem::remove(volume.launchpadDatabase().string());
-    EXPECT_FALSE(Dock(volume.root()).index());
-    EXPECT_FALSE(stands(""));
 }
 
 } // namespace

@@ -1,20 +1,13 @@
-#include "model/UnsupportedAppsManager.h"
 #include "platform/Bookmarks.h"
 #include "platform/FileManager.h"
-#include "platform/Icns.h"
 #include "platform/Mac.h"
-#include "platform/Machine.h"
-#include "platform/Volume.h"
 #include "platform/practice/Layout.h"
 #include "platform/practice/PracticeMac.h"
-#include "practice/furnish/Furnish.h"
-#include "practice/furnish/SampleApps.h"
 #include "support/practice/PracticeVolume.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <functional>
 #include <map>
 #include <set>
 
@@ -22,14 +15,10 @@ namespace tavrik::practice {
 
 namespace {
 
-using test::LaunchpadItem;
-using test::PinnedTile;
-using test::PracticeVolume;
+using namespace test;
 using testing::ElementsAre;
-using testing::Not;
 
-class FurnishedMac : public testing::Test {
-protected:
+struct FurnishedMac : testing::Test {
     Mac& mac() { return m_practiceMac.mac(); }
 
     std::vector<LaunchpadItem> rowsOfType(int type) const {
@@ -82,44 +71,6 @@ TEST_F(FurnishedMac, HasPagesAndFoldersWhosePlacesAreDense) {
     EXPECT_GE(rowsOfType(2).size(), 3u);
 }
 
-TEST_F(FurnishedMac, HasARowForEachKindOfOddity) {
-    const UnsupportedAppsManager unsupported;
-    for (const std::string& bundleID : unsupported.unsupportedBundleIDs())
-        EXPECT_EQ(m_volume.appRows(bundleID).size(), 1u) << bundleID;
-
-    const std::vector<LaunchpadItem> apps = rowsOfType(4);
-    const auto isPlatforms = [](const LaunchpadItem& app) { return app.bundleID.starts_with("com.apple."); };
-    const std::pair<const char*, std::function<bool(const LaunchpadItem&)>> oddities[] = {
-        {"hidden, the platform's", [&](auto& app) { return app.flags == 128 && isPlatforms(app); }},
-        {"hidden, another maker's", [&](auto& app) { return app.flags == 128 && !isPlatforms(app); }},
-        {"without flags", [&](auto& app) { return !app.flags && isPlatforms(app); }},
-        {"blanks around the identifier", [](auto& app) { return app.bundleID != trimmed(app.bundleID); }},
-        {"a second bundle", [&](auto& app) { return m_volume.appRows(app.bundleID).size() == 2; }},
-        {"of a telephone", [&](auto& app) { return mac().files.exists(app.path / "Wrapper"); }},
-        {"outside the standard folders", [](auto& app) { return app.path.isInside(MacPath("/opt")); }},
-        {"in the home", [](auto& app) { return app.path.isInside(kHome / "Applications"); }},
-    };
-    for (const auto& [name, isOne] : oddities)
-        EXPECT_TRUE(std::ranges::any_of(apps, isOne)) << name;
-}
-
-TEST_F(FurnishedMac, DrawsEveryIconThatABundleNames) {
-    std::set<BundleIcon> kinds;
-    for (const SampleApp& app : sampleApps()) {
-        EXPECT_THAT(glyphNames(), testing::Contains(app.glyph));
-        kinds.insert(app.icon);
-        const MacPath resources = bundlePath(app) / "Contents/Resources";
-        const auto names = app.isIOSApp ? std::vector<std::string>() : *mac().files.list(resources);
-        const bool hasFile = app.icon != BundleIcon::none && app.icon != BundleIcon::catalogueOnly;
-        const auto file = std::ranges::find_if(names, [](auto& name) { return name.ends_with(".icns"); });
-        ASSERT_EQ(file != names.end(), hasFile) << app.name;
-        if (hasFile) {
-            EXPECT_EQ(icns::largestImage(*mac().files.read(resources / *file)).width(), 32) << app.name;
-        }
-    }
-    EXPECT_EQ(kinds.size(), 5u) << "every way of naming an icon occurs";
-}
-
 TEST_F(FurnishedMac, DockTilesAgreeWithTheirBundles) {
     constexpr double kReferenceSince1904 = 3'061'152'000;
     std::vector<PinnedTile> apps = m_volume.pinnedTiles();
@@ -145,13 +96,6 @@ TEST_F(FurnishedMac, DockTilesAgreeWithTheirBundles) {
             EXPECT_EQ(static_cast<double>(seconds) - kReferenceSince1904,
                       mac().files.attributes(*target)->modified.sinceReference);
         }
-}
-
-TEST_F(FurnishedMac, AnswersForItselfThroughThePorts) {
-    EXPECT_EQ(mac().machine.systemVersion().major, 14);
-    EXPECT_THAT(mac().machine.serialNumber(), testing::Optional(Not(testing::IsEmpty())));
-    EXPECT_TRUE(mac().files.exists(MacPath(mac().volume.temporaryFolder())));
-    EXPECT_TRUE(textOf(*mac().files.read(mac().volume.resource("Warning.rtf"))).starts_with("{\\rtf1"));
 }
 
 } // namespace

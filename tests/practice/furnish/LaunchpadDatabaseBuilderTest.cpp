@@ -12,17 +12,15 @@ namespace {
 using testing::ElementsAre;
 
 /// Two pages: on the first A, B, C and D, on the second W and X.
-class LaunchpadDatabase : public testing::Test {
-protected:
-    void SetUp() override {
+struct LaunchpadDatabase : testing::Test {
+    LaunchpadDatabase() {
         LaunchpadDatabaseBuilder builder(m_file);
         m_first = builder.addPage();
         m_second = builder.addPage();
         for (const char title : std::string("ABCDWX"))
             builder.addApp(title < 'W' ? m_first : m_second, {{title}, "org.example", Bytes{1}, {}, ""});
-        ASSERT_TRUE(builder.finish());
+        EXPECT_TRUE(builder.finish());
         m_connection = sqlite::Connection::open(m_file, sqlite::OpenMode::readWrite);
-        ASSERT_TRUE(m_connection);
     }
 
     /// "A0 B1": the applications of a page and their places.
@@ -61,22 +59,18 @@ protected:
 TEST_F(LaunchpadDatabase, IsSoundInWriteAheadModeAndLeavesNoJournal) {
     m_connection.reset();
     EXPECT_THAT(test::treeOf(m_folder.path()), ElementsAre(testing::Pair("db", testing::_)));
-
     m_connection = sqlite::Connection::open(m_file, sqlite::OpenMode::readWrite);
-    EXPECT_EQ(answer("PRAGMA integrity_check"), "ok");
-    EXPECT_EQ(answer("PRAGMA journal_mode"), "wal");
-    EXPECT_EQ(answer("SELECT value FROM dbinfo WHERE key = 'ignore_items_update_triggers'"), "0");
-    EXPECT_EQ(answer("SELECT count(*) FROM items WHERE type < 4 AND rowid NOT IN (SELECT item_id FROM groups)"),
-              "0");
+    for (const auto& [question, expected] :
+         {std::pair("PRAGMA integrity_check", "ok"),
+          {"PRAGMA journal_mode", "wal"},
+          {"SELECT value FROM dbinfo WHERE key = 'ignore_items_update_triggers'", "0"},
+          {"SELECT count(*) FROM items WHERE type < 4 AND rowid NOT IN (SELECT item_id FROM groups)", "0"}})
+        EXPECT_EQ(answer(question), expected);
 }
 
 TEST_F(LaunchpadDatabase, TriggersMoveTheNeighboursUnlessSwitchedOff) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"1", "A0 W1 C2 D3 / B0 X1"},
-        {"0", "A1 C1 D2 W3 / X0 B1"},
-    };
-
-    for (const auto& [ignore, expected] : cases) {
+    for (const auto& [ignore, expected] :
+         {std::pair("1", "A0 W1 C2 D3 / B0 X1"), {"0", "A1 C1 D2 W3 / X0 B1"}}) {
         run("SAVEPOINT before");
         run(std::string("UPDATE dbinfo SET value='") + ignore + "' WHERE key='ignore_items_update_triggers'");
         place("B", m_second, 0);
@@ -95,15 +89,6 @@ TEST_F(LaunchpadDatabase, TriggersPlaceNewRowsLastAndCloseTheGapOfRemovedOnes) {
     run("DELETE FROM items WHERE rowid = (SELECT item_id FROM apps WHERE title = 'B')");
     EXPECT_EQ(places(m_first), "A0 C1 D2");
     EXPECT_EQ(answer("SELECT count(*) FROM apps") + answer("SELECT count(*) FROM image_cache"), "66");
-}
-
-TEST_F(LaunchpadDatabase, IsNeverBuiltOverAnother) {
-    m_connection.reset();
-    LaunchpadDatabaseBuilder second(m_file);
-    second.addApp(second.addPage(), {"Z", "org.example.z", {}, {}, ""});
-    EXPECT_FALSE(second.finish());
-    m_connection = sqlite::Connection::open(m_file, sqlite::OpenMode::readWrite);
-    EXPECT_EQ(places(m_first), "A0 B1 C2 D3");
 }
 
 } // namespace

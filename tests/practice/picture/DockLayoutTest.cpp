@@ -9,18 +9,11 @@
 
 using namespace tavrik;
 using namespace tavrik::practice;
-using plist::Array;
-using plist::Dictionary;
-using plist::Value;
+using namespace tavrik::plist;
 
 namespace {
 
 const MacPath kPreferences("/com.apple.dock.plist");
-
-struct DockLayoutTest : testing::Test {
-    test::TemporaryFolder folder;
-    PosixFileManager files{folder.path()};
-};
 
 Value tile(const char* type, Dictionary data) {
     return Dictionary{{"tile-type", type}, {"tile-data", std::move(data)}};
@@ -33,6 +26,11 @@ Value url(const char* text) {
 Value tileOf(const char* text) {
     return tile("file-tile", {{"file-data", url(text)}});
 }
+
+struct DockLayoutTest : testing::Test {
+    test::TemporaryFolder folder;
+    PosixFileManager files{folder.path()};
+};
 
 } // namespace
 

@@ -113,8 +113,8 @@ TEST(LaunchpadLayout, ShowsWhatAPersonWouldSee) {
 TEST(LaunchpadLayout, ReadsTheLogOfADatabaseWithoutTouchingAnything) {
     SmallLaunchpad launchpad("PRAGMA journal_mode = WAL");
     namespace fs = std::filesystem;
-    for (const auto& companions : {std::vector<const char*>{"-wal", "-shm"}, std::vector<const char*>{"-wal"},
-                                   std::vector<const char*>{}}) {
+    for (const auto& companions :
+         {std::vector<const char*>{"-wal", "-shm"}, std::vector<const char*>{"-wal"}, {}}) {
         // As a killed process leaves the files, and as people copy them.
         const test::TemporaryFolder copies;
         const HostPath copy = copies.path() / "db";

@@ -70,19 +70,6 @@ TEST_F(VirtualSessionTest, LooksAgainEachSecondWhileTheDatabaseIsLocked) {
     EXPECT_TRUE(isIndexed());
 }
 
-TEST_F(VirtualSessionTest, AnInterceptorStandsInForATool) {
-    session->setInterceptor([this](const MacPath& tool, const auto&, const ToolLimits&) {
-        EXPECT_TRUE(session->dockRuns());
-        return tool == killall ? std::optional(Result<ToolResult>(Error{"never ended", ETIMEDOUT}))
-                               : std::nullopt;
-    });
-    EXPECT_EQ(run(killall, {"Dock"}), -ETIMEDOUT);
-    EXPECT_TRUE(session->dockRuns());
-    EXPECT_EQ(run(MacPath("/usr/bin/make"), {}), -ENOENT);
-    EXPECT_EQ(run(MacPath("/usr/bin/touch"), {"/Applications/new"}), 0);
-    EXPECT_TRUE(files.exists(MacPath("/Applications/new")));
-}
-
 TEST_F(VirtualSessionTest, NothingComesOfWhatItScheduledOnceItIsGone) {
     EXPECT_EQ(run(killall, {"Dock"}), 0);
     session.reset();

@@ -19,14 +19,11 @@
 namespace tavrik::practice {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Pair;
+using namespace ::testing;
 
 constexpr Date kNow{794'000'000.25};
 
-struct SystemToolsTest : testing::Test {
+struct SystemToolsTest : Test {
     SystemToolsTest() {
         EXPECT_TRUE(files.createFolder(MacPath("/Applications/Atlas.app/Contents")));
         EXPECT_TRUE(files.create(MacPath("/Applications/Atlas.app/Contents/Info.plist"), {}));
@@ -55,16 +52,9 @@ struct SystemToolsTest : testing::Test {
 };
 
 TEST_F(SystemToolsTest, AnswersFailuresAsTheMacDoes) {
-    struct Case {
-        std::string tool;
-        std::vector<std::string> arguments;
-        std::string errors;
-        int exitStatus = 1;
-    };
-
     const std::string info = "com.apple.FinderInfo";
     const std::string file = "/Applications/Atlas.app/Contents/Info.plist";
-    const Case cases[] = {
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[] = {
         {"/usr/bin/touch", {"/no/where"}, "touch: /no/where: No such file or directory\n"},
         {"/usr/bin/killall", {"Finder"}, "No matching processes belonging to you were found\n"},
         {"/usr/bin/killall", {"-NONE", "Dock"}, "usage: killall"},
@@ -74,12 +64,12 @@ TEST_F(SystemToolsTest, AnswersFailuresAsTheMacDoes) {
         {"/usr/bin/xattr", {"-wx", info, "0g", file}, "non-hexadecimal"},
         {"/usr/bin/xattr", {"-p", info, file}, "xattr: " + file + ": No such xattr: com.apple.FinderInfo\n"},
         {kLaunchServicesTool.string(), {"-f", file}, "failed to scan " + file + ": error -10811"},
-        {"/usr/bin/make", {}, "command not found", 127},
+        {"/usr/bin/make", {}, "command not found"},
     };
-    for (const Case& each : cases) {
-        const ToolAnswer answer = run(each.tool, each.arguments);
-        EXPECT_EQ(answer.exitStatus, each.exitStatus) << each.tool << " " << each.errors;
-        EXPECT_THAT(answer.errors, HasSubstr(each.errors)) << each.tool;
+    for (const auto& [tool, arguments, errors] : cases) {
+        const ToolAnswer answer = run(tool, arguments);
+        EXPECT_EQ(answer.exitStatus, tool == "/usr/bin/make" ? 127 : 1) << tool << " " << errors;
+        EXPECT_THAT(answer.errors, HasSubstr(errors)) << tool;
         EXPECT_EQ(answer.output, "");
     }
     EXPECT_EQ(readFinderInfo(files, MacPath(file)), std::nullopt);
@@ -143,11 +133,88 @@ TEST_F(SystemToolsTest, XattrKeepsFinderInfoOfThirtyTwoBytes) {
     EXPECT_FALSE(readFinderInfo(files, app));
 }
 
-TEST_F(SystemToolsTest, NotesEachCallInTheJournal) {
-    run("/usr/bin/killall", {"-HUP", "Dock"});
-    run("/usr/bin/touch", {"/no/where\nat all"});
-    EXPECT_EQ(textOf(*files.read(kToolJournal)), "794000000.250\t/usr/bin/killall\t-HUP\tDock\n"
-                                                 "794000000.250\t/usr/bin/touch\t/no/where at all\n");
+const MacPath kDockPreferences = kPreferencesFolder / "com.apple.dock.plist";
+
+struct DefaultsTest : SystemToolsTest {
+    DefaultsTest() {
+        EXPECT_TRUE(files.createFolder(kPreferencesFolder));
+        EXPECT_TRUE(writePropertyList(files, kDockPreferences, original));
+    }
+
+    ToolAnswer run(std::vector<std::string> arguments, const char* domain = "com.apple.dock") {
+        arguments.insert(arguments.begin() + 1, domain);
+        return SystemToolsTest::run("/usr/bin/defaults", arguments);
+    }
+
+    plist::Value original = plist::Dictionary{
+        {"autohide", true},
+        {"book", Bytes{1, 0xFF}},
+        {"last", Date{86'400}},
+        {"orientation", "left side"},
+        {"persistent-apps", plist::Array{plist::Dictionary{{"GUID", -7}, {"tile-type", "file-tile"}}, "b\"c"}},
+        {"tilesize", 48.5}};
+};
+
+TEST_F(DefaultsTest, ReadsValuesAsTheMacPrintsThem) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"autohide", "1\n"},
+        {"book", "{length = 2, bytes = 0x01ff}\n"},
+        {"last", "2001-01-02 00:00:00 +0000\n"},
+        {"orientation", "left side\n"},
+        {"persistent-apps", "(\n    {\n        GUID = \"-7\";\n        \"tile-type\" = \"file-tile\";\n    "
+                            "},\n    \"b\\\"c\"\n)\n"},
+        {"tilesize", "48.5\n"},
+    };
+    for (const auto& [key, text] : cases)
+        EXPECT_EQ(run({"read", key}).output, text);
+    EXPECT_THAT(run({"read"}).output, StartsWith("{\n    autohide = 1;\n    book = {length"));
+}
+
+TEST_F(DefaultsTest, SaysWhatDoesNotExist) {
+    EXPECT_THAT(run({"read", "missing"}).errors,
+                AllOf(StartsWith("2026-02-28 19:33:20.250 defaults["),
+                      EndsWith("] \nThe domain/default pair of (com.apple.dock, missing) does not exist\n")));
+    ASSERT_TRUE(files.remove(kDockPreferences));
+    EXPECT_EQ(run({"read"}).exitStatus, 1);
+    EXPECT_THAT(run({"read"}).errors, EndsWith("\nDomain com.apple.dock does not exist\n"));
+    EXPECT_EQ(run({"delete", "autohide"}).exitStatus, 1);
+}
+
+TEST_F(DefaultsTest, WritesOneKeyAndKeepsEveryOther) {
+    const std::pair<std::vector<std::string>, plist::Value> cases[] = {
+        {{"write", "RecentlyUsedApps", "-bool", "true"}, true},
+        {{"write", "autohide", "-bool", "NO"}, false},
+        {{"write", "count", "-int", "-9000000000"}, std::int64_t{-9'000'000'000}},
+        {{"write", "tilesize", "-float", "36"}, 36.0},
+        {{"write", "name", "-string", "-int"}, "-int"},
+        {{"write", "plain", "12"}, "12"},
+    };
+    plist::Value expected = original;
+    for (const auto& [arguments, value] : cases) {
+        const ToolAnswer answer = run(arguments);
+        EXPECT_TRUE(answer.exitStatus == 0 && answer.errors.empty()) << arguments[1];
+        expected.as<plist::Dictionary>()->insert_or_assign(arguments[1], value);
+    }
+    EXPECT_THAT(textOf(*files.read(kDockPreferences)), StartsWith("bplist00"));
+    EXPECT_EQ(run({"delete", "name"}).exitStatus, 0);
+    expected.as<plist::Dictionary>()->erase("name");
+    EXPECT_EQ(**readPropertyList(files, kDockPreferences), expected);
+}
+
+TEST_F(DefaultsTest, RefusesWhatItCannotWriteAndChangesNothing) {
+    const Bytes before = *files.read(kDockPreferences);
+    for (const auto& [type, value] :
+         {std::pair{"-bool", "perhaps"}, {"-int", "1x"}, {"-float", ""}, {"-date", "today"}})
+        EXPECT_EQ(run({"write", "k", type, value}).exitStatus, 1) << type;
+    EXPECT_EQ(*files.read(kDockPreferences), before);
+
+    ASSERT_TRUE(files.write(kDockPreferences, bytesOf("bplist00 cut short")));
+    EXPECT_THAT(run({"write", "k", "-bool", "true"}).errors,
+                EndsWith("\nCould not write domain com.apple.dock; exiting\n"));
+    EXPECT_EQ(textOf(*files.read(kDockPreferences)), "bplist00 cut short");
+
+    EXPECT_EQ(run({"write", "k", "-bool", "true"}, "../../escaped").exitStatus, 1);
+    EXPECT_FALSE(files.exists(kHome / "escaped.plist"));
 }
 
 /// A child that records itself on a volume under a name and waits for a signal.
