@@ -11,7 +11,7 @@ StyleTable::StyleTable() {
 
 void StyleTable::add(const std::map<std::string, std::string>& map) {
     for (const auto& [plain, styled] : map) {
-        Written& written = m_written[static_cast<std::size_t>(plain.front())];
+        Written& written = m_written[static_cast<unsigned char>(plain.front())];
         std::ranges::copy(styled, written.bytes.begin());
         written.count = static_cast<std::uint32_t>(styled.size());
     }

@@ -21,7 +21,7 @@ public:
     void add(const std::map<std::string, std::string>& map);
 
     char* ascii(char character, char* out) const {
-        const Written& written = m_written[static_cast<std::size_t>(character)];
+        const Written& written = m_written[static_cast<unsigned char>(character)];
         std::memcpy(out, written.bytes.data(), written.bytes.size());
         return out + written.count;
     }

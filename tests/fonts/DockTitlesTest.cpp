@@ -4,17 +4,9 @@
 
 namespace tavrik::test {
 
-namespace {
-
 using namespace std::chrono_literals;
 using testing::ElementsAre;
-using testing::IsEmpty;
-
-constexpr const char* kBold = "Mathematical Bold";
-
 using DockTitlesTest = FontStage;
-
-} // namespace
 
 TEST_F(DockTitlesTest, WaitsForTheDockToTakeEachStepIn) {
     fonts().applyFont(kBold);
@@ -30,25 +22,23 @@ TEST_F(DockTitlesTest, WaitsForTheDockToTakeEachStepIn) {
 TEST_F(DockTitlesTest, WritesAgainWhatTheDockWritesOver) {
     const plist::Value old = volume.dockPreferences();
     int overwrites = 2;
-    session.setInterceptor(
-        [&](const MacPath& tool, const auto&, const auto&) -> std::optional<Result<ToolResult>> {
-            if (tool.name() != "killall" || overwrites-- <= 0)
-                return std::nullopt;
-            // First the old labels, with a higher count and a tile that the user has just added; then ours,
-            // with a lower count.
-            plist::Value dock = overwrites > 0 ? old : volume.dockPreferences();
-            auto& tiles = *dock.find("persistent-apps")->as<plist::Array>();
-            if (overwrites > 0)
-                tiles.push_back(tiles.front());
-            (*dock.as<plist::Dictionary>())["mod-count"] = overwrites > 0 ? 1'000'000 : 1;
-            EXPECT_TRUE(program->dock.writeDockPlist(dock));
-            return ToolResult();
-        });
-    fonts().applyFont(kBold);
+    session.setInterceptor([&](const MacPath& tool, const auto&...) -> std::optional<Result<ToolResult>> {
+        if (tool.name() != "killall" || overwrites-- <= 0)
+            return std::nullopt;
+        // First the old labels, with a higher count and a tile that the user has just added; then ours, with a
+        // lower count.
+        plist::Value dock = overwrites > 0 ? old : volume.dockPreferences();
+        auto& tiles = *dock.find("persistent-apps")->as<plist::Array>();
+        if (overwrites > 0)
+            tiles.push_back(tiles.front());
+        (*dock.as<plist::Dictionary>())["mod-count"] = overwrites > 0 ? 1'000'000 : 1;
+        EXPECT_TRUE(program->dock.writeDockPlist(dock));
+        return ToolResult();
+    });
+    first["tile " + std::to_string(first.size())] = "Launchpad";
+    show(kBold);
     EXPECT_EQ(log.count("WARNING: Dock plist verification failed, retrying..."), 2u);
     EXPECT_EQ(log.count("Verified Dock plist write successful"), 1u);
-    first["tile " + std::to_string(first.size())] = "Launchpad";
-    EXPECT_THAT(differences(titles(), firstIn(kBold)), IsEmpty());
 }
 
 TEST_F(DockTitlesTest, GivesUpAfterThreeTriesOfFiveWrites) {
@@ -64,9 +54,8 @@ TEST_F(DockTitlesTest, GivesUpAfterThreeTriesOfFiveWrites) {
     EXPECT_TRUE(log.has("Applied font to 3 folder(s)")) << "the next targets go on";
 
     files.failOn("write", dockFile, ENOSPC, Times::once);
-    fonts().applyFont(kBold);
+    show(kBold);
     EXPECT_TRUE(log.has("Successfully wrote Dock plist (attempt 2)"));
-    EXPECT_THAT(differences(titles(), firstIn(kBold)), IsEmpty());
 }
 
 TEST_F(DockTitlesTest, NeverWritesOverPreferencesThatCannotBeReadOrAreNotThere) {

@@ -1,50 +1,35 @@
 #include "fonts/FolderNames.h"
 
-#include <gmock/gmock.h>
+#include "fonts/CapitalisationFix.h"
+
 #include <gtest/gtest.h>
 
 namespace tavrik::test {
 
 namespace {
 
-const TitleStyle kBold = FontState{"Mathematical Bold", true, {}};
+const char* const bold = "Mathematical Bold";
+const TitleStyle kBold = FontState{bold, true, {}};
 const TitleStyle kCaps = FontState{"Small Caps", false, {}};
 const auto kNone = std::nullopt;
 
-std::optional<FolderBackup> names(const char* original, const char* lastGood, const char* font = nullptr) {
-    FolderBackup backup;
-    if (original)
-        backup.original = original;
-    if (lastGood)
-        backup.lastGood = lastGood;
-    if (font)
-        backup.lastGoodFont = font;
-    return backup;
-}
+using Text = std::optional<std::string>;
 
-struct Case {
-    const char* plain;
-    std::optional<FolderBackup> backup;
-    TitleStyle current;
-    TitleStyle wanted;
-    const char* base;
-    std::optional<FolderBackup> save;
-    const char* line;
-};
-
-void check(const Case& expected, const FolderName& found) {
-    SCOPED_TRACE(expected.line);
-    EXPECT_EQ(found.base, expected.base);
-    EXPECT_EQ(found.save, expected.save);
-    const std::vector<std::string> lines(*expected.line ? 1 : 0, expected.line);
-    EXPECT_EQ(found.lines, lines);
+FolderBackup names(const Text& original, const Text& lastGood, const Text& font = kNone) {
+    return {original, {}, lastGood, {}, font};
 }
 
 } // namespace
 
-TEST(FolderNames, KnowTheCapitalsBeforeAStyle) {
-    const char* const bold = "Mathematical Bold";
-    const Case cases[] = {
+TEST(FolderNames, KnowTheCapitalsBeforeAStyleAndAtAReset) {
+    const struct {
+        std::string plain;
+        std::optional<FolderBackup> backup;
+        TitleStyle current, wanted; ///< none wanted: the reset
+        std::string base;
+        std::optional<FolderBackup> save;
+        std::string line;
+    } cases[] = {
         {"IPHONE TOOLS", kNone, kCaps, kBold, "Iphone Tools", names("Iphone Tools", "Iphone Tools", bold),
          "  Creating backup from single-case font, attempting fix: 'IPHONE TOOLS' -> 'Iphone Tools'"},
         {"IPHONE", kNone, kBold, kCaps, "IPHONE", names("IPHONE", "IPHONE"),
@@ -53,37 +38,47 @@ TEST(FolderNames, KnowTheCapitalsBeforeAStyle) {
          "  Creating initial backup for folder: 'iTunes'"},
         {"Games", names("Music", "Music", "Fraktur"), kCaps, kCaps, "Games", names("Games", "Games"),
          "  Folder renamed: 'Music' -> 'Games'"},
-        {"MUSIC", names("Music", "Music", bold), kBold, kCaps, "MUSIC", names(nullptr, "MUSIC"),
+        {"MUSIC", names("Music", "Music", bold), kBold, kCaps, "MUSIC", names(kNone, "MUSIC"),
          "  Updating lastGood from 'Music' to 'MUSIC' (from Mathematical Bold)"},
         {"MUSIC", names("music", "Music", "Fraktur"), kBold, kCaps, "Music", kNone,
          "  Ignoring corrupted capitalization 'MUSIC', using backup 'Music'"},
-        {"music", names("Music", "Music", bold), kCaps, kBold, "Music", kNone,
-         "  Ignoring corrupted capitalization 'music', using backup 'Music'"},
         {"Music", names("MUSIC", "Music", bold), kBold, kBold, "Music", kNone, ""},
         // Decomposed and composed are one name.
-        {"E\xCC\x81T\xC3\x89", names("\xC3\x89t\xC3\xA9", "\xC3\x89t\xC3\xA9"), kNone, kCaps,
-         "\xC3\x89t\xC3\xA9", kNone,
-         "  Ignoring corrupted capitalization 'E\xCC\x81T\xC3\x89', using backup '\xC3\x89t\xC3\xA9'"},
+        {"E\u0301TÉ", names("Été", "Été"), kNone, kCaps, "Été", kNone,
+         "  Ignoring corrupted capitalization 'E\u0301TÉ', using backup 'Été'"},
         // Half a backup is as good as its other half.
-        {"music", names(nullptr, "Music"), kCaps, kBold, "Music", kNone,
+        {"music", names(kNone, "Music"), kCaps, kBold, "Music", kNone,
          "  Ignoring corrupted capitalization 'music', using backup 'Music'"},
-    };
-    for (const Case& one : cases)
-        check(one, nameForStyle(one.plain, one.backup, one.current, *one.wanted));
-}
-
-TEST(FolderNames, KnowTheCapitalsAtAReset) {
-    const Case cases[] = {
         {"music", kNone, kCaps, kNone, "music", names("music", "music"),
          "  Creating backup during reset for: 'music'"},
         {"Games", names("Music", "Music"), kBold, kNone, "Games", names("Games", "Games"),
          "  Folder renamed during reset: 'Music' -> 'Games'"},
-        {"MUSIC", names("Music", "Music", "Fraktur"), kBold, kNone, "MUSIC", names(nullptr, "MUSIC"),
+        {"MUSIC", names("Music", "Music", "Fraktur"), kBold, kNone, "MUSIC", names(kNone, "MUSIC"),
          "  Saving final capitalization before reset: 'MUSIC'"},
         {"music", names("Music", "Music"), kCaps, kNone, "Music", kNone, ""},
     };
-    for (const Case& one : cases)
-        check(one, nameForReset(one.plain, one.backup, one.current));
+
+    for (const auto& [plain, backup, current, wanted, base, save, line] : cases) {
+        SCOPED_TRACE(line);
+        const FolderName found =
+            wanted ? nameForStyle(plain, backup, current, *wanted) : nameForReset(plain, backup, current);
+        EXPECT_EQ(found.base, base);
+        EXPECT_EQ(found.save, save);
+        EXPECT_EQ(found.lines, std::vector<std::string>(line.empty() ? 0 : 1, line));
+    }
+}
+
+TEST(CapitalisationFix, ChangesNothingButTheCaseOfLetters) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"IPHONE", "iPhone"},
+        {"vpn's", "VPN's"},
+        {"VPNS", "VPNs"},
+        {" TV AND IOS apps a 3D  vpn iTUNES ÉTÉS été e\u0301té ",
+         " TV AND IOS Apps A 3D  Vpn Itunes Étés Été E\u0301té "},
+        {"", ""},
+    };
+    for (const auto& [plain, fixed] : cases)
+        EXPECT_EQ(withFixedCapitals(plain), fixed);
 }
 
 } // namespace tavrik::test

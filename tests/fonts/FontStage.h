@@ -23,10 +23,12 @@
 
 namespace tavrik::test {
 
+inline const std::string kBold = "Mathematical Bold", kScript = "Mathematical Script", kCaps = "Small Caps";
+
+using Styles = std::vector<std::string>;
+
 /// The managers of one run of the program.
 struct FontProgram {
-    explicit FontProgram(Mac& on) : mac(on) {}
-
     Mac& mac;
     SettingsManager settings{mac};
     UnsupportedAppsManager unsupported;
@@ -36,75 +38,68 @@ struct FontProgram {
     FontManager fonts{mac, settings, database, dock};
 };
 
-/// Every title by what it belongs to: "folder 17", "app 4", "tile 0".
-using Titles = std::map<std::string, std::string>;
-
-/// A line for each title that is not as expected.
-inline std::vector<std::string> differences(const Titles& found, const Titles& expected) {
-    std::vector<std::string> lines;
-    EXPECT_EQ(found.size(), expected.size());
-    for (const auto& [place, title] : expected)
-        if (const auto there = found.find(place); there == found.end() || there->second != title)
-            lines.push_back(place + ": " + (there == found.end() ? "none" : there->second) + ", not " + title);
-    return lines;
-}
-
 /// A furnished Mac in virtual time, with folders in every mixture of cases, and the program on it.
 class FontStage : public testing::Test {
 protected:
-    FontStage() {
-        const char* const kNames[] = {"iTunes & macOS 2", "Music Apps", "eBooks ÉTÉ", "IPHONE TOOLS"};
-        for (const LaunchpadItem& item : volume.launchpadItems())
-            if (item.type == 2 && folders.size() < std::size(kNames)) {
-                nameFolder(item.row, kNames[folders.size()]);
-                folders.push_back(item.row);
-            }
-        EXPECT_GE(folders.size(), 3u);
-        first = titles();
-        start();
-    }
+    /// Every title by what it belongs to: "folder 17", "app 4", "tile 0".
+    using Titles = std::map<std::string, std::string>;
 
-    /// The program anew, as after a kill.
-    void start() { program.emplace(mac); }
+    FontStage() {
+        program.emplace(mac);
+        for (const LaunchpadItem& item : volume.launchpadItems())
+            if (item.type == 2)
+                folders.push_back(RowID{item.row});
+        nameFolder(0, "iTunes & macOS 2");
+        nameFolder(1, "eBooks ÉTÉ");
+        nameFolder(2, "IPHONE TOOLS");
+        first = titles();
+    }
 
     FontManager& fonts() { return program->fonts; }
 
-    /// No style is the reset.
-    void change(const std::string& style) {
-        style.empty() ? fonts().resetAllFonts() : fonts().applyFont(style);
+    std::string styled(const std::string& text, const std::string& style) {
+        return fonts().fontReplacer().convert(text, style);
     }
 
-    bool execute(const std::string& sql) {
-        auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
-        return database && database->execute(sql.c_str());
+    /// To each in turn; no style is the reset.
+    void change(const Styles& styles) {
+        for (const std::string& style : styles)
+            style.empty() ? fonts().resetAllFonts() : fonts().applyFont(style);
     }
 
-    void nameFolder(std::int64_t row, const std::string& title) {
-        EXPECT_TRUE(
-            execute("UPDATE groups SET title = '" + title + "' WHERE item_id = " + std::to_string(row)));
+    /// Changes, and expects the style in every name.
+    void show(const std::string& style) {
+        change({style});
+        Titles expected = first;
+        for (auto& [place, title] : expected)
+            title = styled(title, style);
+        EXPECT_THAT(titles(), testing::ContainerEq(expected)) << "in '" << style << "'";
     }
 
-    std::string folderTitle(std::int64_t row) { return titles().at("folder " + std::to_string(row)); }
+    sqlite::Connection openDatabase() {
+        return *sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+    }
+
+    void execute(const std::string& sql) { ASSERT_TRUE(openDatabase().execute(sql.c_str())); }
+
+    /// What the user types while a style is shown.
+    void nameFolder(std::size_t folder, const std::string& title, const std::string& style = {}) {
+        const std::string row = std::to_string(static_cast<std::int64_t>(folders.at(folder)));
+        execute("UPDATE groups SET title = '" + styled(title, style) + "' WHERE item_id = " + row);
+        first["folder " + row] = title;
+    }
 
     /// Of everything that leads somewhere: the capitals of an application that is gone are not kept.
     Titles titles() {
         Titles all;
         for (const LaunchpadItem& item : volume.launchpadItems()) {
-            if (item.type == 2)
-                all["folder " + std::to_string(item.row)] = item.title;
-            if (item.type == 4 && mac.files.exists(item.path))
-                all["app " + std::to_string(item.row)] = item.title;
+            const bool isApp = item.type == 4 && mac.files.exists(item.path);
+            if (isApp || item.type == 2)
+                all[(isApp ? "app " : "folder ") + std::to_string(item.row)] = item.title;
         }
         for (const PinnedTile& tile : volume.pinnedTiles())
             all["tile " + std::to_string(all.size())] = tile.label;
         return all;
-    }
-
-    Titles firstIn(const std::string& style) {
-        Titles styled = first;
-        for (auto& [place, title] : styled)
-            title = fonts().fontReplacer().convert(title, style);
-        return styled;
     }
 
     PracticeVolume volume;
@@ -117,7 +112,7 @@ protected:
             own.defaults, own.machine, clock,         own.alerts,    own.random};
     const MacPath dockFile = dockPreferencesPath(practice::kHome);
     std::optional<FontProgram> program;
-    std::vector<std::int64_t> folders;
+    std::vector<RowID> folders;
     LogRecorder log;
     Titles first;
 };
