@@ -1,11 +1,10 @@
 #include "icons/ThumbnailFile.h"
 
 #include "platform/FileManager.h"
+#include "platform/FittedRect.h"
 #include "platform/Png.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <cmath>
 
 namespace tavrik {
 
@@ -13,16 +12,6 @@ namespace {
 
 constexpr std::size_t kLargestThumbnailFile = 1u << 20; // bytes; pixels alone are 68 KB
 constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
-
-QRect fittedRect(QSize picture, int side) {
-    const double scale = std::min(double(side) / picture.width(), double(side) / picture.height());
-    const auto fitted = [&](int length) {
-        return std::clamp(static_cast<int>(std::lround(length * scale)), 1, side);
-    };
-    const int width = fitted(picture.width());
-    const int height = fitted(picture.height());
-    return {(side - width) / 2, (side - height) / 2, width, height};
-}
 
 } // namespace
 

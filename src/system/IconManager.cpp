@@ -1,6 +1,7 @@
 #include "system/IconManager.h"
 
 #include "platform/FileManager.h"
+#include "platform/FittedRect.h"
 #include "platform/Icns.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace tavrik {
 
@@ -58,19 +58,6 @@ QImage loadIconFile(ByteView data) {
     return icns::decode(data, *largest);
 }
 
-/// Where a picture of this size is drawn: fitted, centred, an odd remainder to the right and the bottom.
-QRect fittedRect(QSize size) {
-    if (size.isEmpty())
-        return {0, 0, kSquareSide, kSquareSide};
-    const double scale = std::min(double{kSquareSide} / size.width(), double{kSquareSide} / size.height());
-    const auto fitted = [scale](int length) {
-        return std::clamp(static_cast<int>(std::lround(length * scale)), 1, kSquareSide);
-    };
-    const int width = fitted(size.width());
-    const int height = fitted(size.height());
-    return {(kSquareSide - width) / 2, (kSquareSide - height) / 2, width, height};
-}
-
 /// Averages areas on the way down and interpolates on the way up. Null when there is no memory for it.
 QImage scaledInSRGB(const QImage& picture, QSize size) {
     QImage scaled =
@@ -108,7 +95,7 @@ std::optional<QImage> IconManager::squareIcon(const QImage& from) {
     if (from.size() == QSize(kSquareSide, kSquareSide) && from.format() == kFormat && isSRGB(from))
         return from;
 
-    const QRect rect = fittedRect(from.size());
+    const QRect rect = fittedRect(from.size(), kSquareSide);
     QImage scaled = from.isNull() ? QImage() : scaledInSRGB(from, rect.size());
     if (scaled.size() == QSize(kSquareSide, kSquareSide))
         return scaled;
