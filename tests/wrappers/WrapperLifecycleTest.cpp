@@ -11,6 +11,8 @@ using testing::ElementsAre;
 using Waits = std::vector<std::chrono::milliseconds>;
 
 const Waits kRestart{100ms, 100ms, 200ms};
+constexpr const char* kKilled = "\n>>> DOCK RESTART: Killing Dock process to refresh Launchpad and Dock...";
+constexpr const char* kRestarted = ">>> DOCK RESTART: Complete\n";
 
 struct Lifecycle : WrapperStage {
     QColor iconColour() { return mac.workspace.icon(wrapperOf(atlas)).pixelColor(8, 8); }
@@ -26,16 +28,43 @@ struct Lifecycle : WrapperStage {
 
 TEST_F(Lifecycle, CreatesAWrapperInTheOriginalsPlaceAndRemovesItWithoutATrace) {
     program->settings.setSelectedIcon(atlas.bundleID, 0);
+    log.clear();
     ASSERT_TRUE(wrappers().createWrapper(atlas, redIcon()));
+    const LaunchpadItem& home = firstRow(atlas);
+    EXPECT_THAT(
+        log.lines(),
+        ElementsAre(
+            "\n=== CREATING TAVRIK APP ===", "Name: Atlas", "Bundle ID: org.example.atlas",
+            "Path: /Applications/Atlas.app",
+            "Target app - RowID: " + std::to_string(home.row) + ", Parent: " + std::to_string(home.parent) +
+                ", Ordering: " + std::to_string(home.ordering),
+            "Created tavrik app at: " + wrapperOf(atlas).string(), "Icon set attempt 1",
+            "Successfully set custom icon for " + wrapperOf(atlas).string(), kKilled, kRestarted,
+            "Attempt 1: Tavrik app not yet indexed, waiting...",
+            "Attempt 2: Tavrik app not yet indexed, waiting...",
+            "Found visible tavrik app with RowID: " + std::to_string(rowsOf(atlas).wrapper->row),
+            "Successfully swapped to tavrik app", "App is in Dock, updating bookmark...",
+            "  Added warning RTF: " + (kWrappers / kWarning).string(),
+            "Backed up Dock plist to " + dockPreferencesBackupPath(practice::kHome).string(),
+            "Saved original Dock bookmark for org.example.atlas",
+            "Updated Dock entry for org.example.atlas to use tavrik app",
+            "Successfully wrote updated Dock plist", kKilled, kRestarted, "=== END TAVRIK APP CREATION ===\n"));
     // The Dock comes back 0.4 s after its end and indexes 4 s later.
     EXPECT_EQ(clock.waits(), (Waits{100ms, 100ms, 200ms, 3s, 1s, 1s, 500ms, 100ms, 100ms, 200ms}));
-    EXPECT_TRUE(log.has("Found visible tavrik app with RowID: " + std::to_string(rowsOf(atlas).wrapper->row)));
     expectSwapped(atlas);
     EXPECT_EQ(iconColour(), QColor(Qt::red));
     EXPECT_THAT(*mac.files.list(kWrappers), testing::UnorderedElementsAre(kWarning, "Atlas.app"));
 
     clock.forgetWaits();
+    log.clear();
     EXPECT_TRUE(wrappers().removeWrapper(atlas, RestartDock::yes));
+    EXPECT_THAT(
+        log.lines(),
+        ElementsAre("\n=== REMOVING TAVRIK APP ===", "Name: Atlas", "Bundle ID: org.example.atlas",
+                    "Successfully swapped back to original app", "App is in Dock, restoring original...",
+                    "Restored original Dock entry for org.example.atlas", "Successfully restored Dock entry",
+                    "  Removed warning RTF: " + (kWrappers / kWarning).string(), "Removed tavrik app file",
+                    kKilled, kRestarted, "=== END TAVRIK APP REMOVAL ===\n"));
     EXPECT_EQ(clock.waits(), kRestart);
     expectUntouched(atlas);
 
