@@ -78,7 +78,8 @@ Result<SupportFolderLock> SupportFolderLock::take(const Mac& mac, const MacPath&
         if (!lock->isOf(file))
             continue;
         // A holder without a name is a nuisance on a full disk, no danger.
-        ignoreFailure(!lock->setContent(bytesOf(content)));
+        const bool isNamed = !lock->setContent(bytesOf(content));
+        ignoreFailure(isNamed);
         return SupportFolderLock(std::move(*lock), file);
     }
     return held("another Tavrik");
@@ -93,8 +94,10 @@ SupportFolderLock::SupportFolderLock(SupportFolderLock&& other) noexcept
       m_file(std::move(other.m_file)) {}
 
 SupportFolderLock::~SupportFolderLock() {
-    if (m_lock)
-        ignoreFailure(!m_lock->removeFile(m_file));
+    if (!m_lock)
+        return;
+    const bool isRemoved = !m_lock->removeFile(m_file);
+    ignoreFailure(isRemoved);
 }
 
 } // namespace tavrik
