@@ -3,7 +3,7 @@
 #include "app/PracticeHost.h"
 #include "cli/Companion.h"
 #include "cli/HostFile.h"
-#include "platform/Log.h"
+#include "cli/TerminalLog.h"
 #include "platform/Png.h"
 #include "platform/practice/PracticeMac.h"
 #include "practice/furnish/Furnish.h"
@@ -33,7 +33,7 @@ ExitCode PictureCommand::run(Companion& companion) {
 
 ExitCode PracticeWhereCommand::run(Companion& companion) {
     // The folder is all that a script wants to read.
-    setLogStream(stderr);
+    sendLogTo(stderr);
     if (const ExitCode opened = companion.open(Access::looking); opened != ExitCode::done)
         return opened;
     companion.say(companion.practiceRoot().string());

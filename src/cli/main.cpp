@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 #include "cli/Companion.h"
-#include "platform/Log.h"
+#include "cli/TerminalLog.h"
 #include "platform/MainQueue.h"
 #include "platform/SerialQueue.h"
 #include "platform/Threads.h"
@@ -29,8 +29,7 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return commands.parser().exit(error) == 0 ? 0 : static_cast<int>(ExitCode::usage);
     }
-    if (commands.wantsJson())
-        setLogStream(stderr);
+    sendLogTo(commands.wantsJson() ? stderr : stdout);
 
     // Text is drawn but no window shown: the platform without a screen serves everywhere.
     std::string arguments[] = {argv[0], "-platform", "offscreen"};

@@ -16,6 +16,8 @@ namespace {
 struct LogStream {
     std::mutex mutex;
     std::FILE* stream = stdout;
+    std::string before;
+    std::string after;
     std::vector<const LogListener*> listeners;
 };
 
@@ -31,18 +33,21 @@ void log(std::string_view line) {
     LogStream& to = logStream();
     const std::lock_guard lock(to.mutex);
     if (to.stream) {
-        const bool printed = std::fwrite(line.data(), 1, line.size(), to.stream) == line.size() &&
-                             std::fputc('\n', to.stream) != EOF && std::fflush(to.stream) == 0;
+        const std::string text = (to.before + std::string(line)).append(to.after).append("\n");
+        const bool printed =
+            std::fwrite(text.data(), 1, text.size(), to.stream) == text.size() && std::fflush(to.stream) == 0;
         ignoreFailure(printed);
     }
     for (const LogListener* listener : to.listeners)
         listener->m_heard(line);
 }
 
-void setLogStream(std::FILE* stream) {
+void setLogStream(std::FILE* stream, std::string_view before, std::string_view after) {
     LogStream& to = logStream();
     const std::lock_guard lock(to.mutex);
     to.stream = stream;
+    to.before = before;
+    to.after = after;
 }
 
 LogListener::LogListener(std::function<void(std::string_view)> heard) : m_heard(std::move(heard)) {

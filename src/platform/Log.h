@@ -13,8 +13,8 @@ namespace tavrik {
 void log(std::string_view line);
 
 /// Sends the lines to another stream, for a companion whose standard output is for programs. Null silences
-/// them.
-void setLogStream(std::FILE* stream);
+/// them. What a terminal needs to show them apart is put before and after each; listeners do not hear it.
+void setLogStream(std::FILE* stream, std::string_view before = {}, std::string_view after = {});
 
 /// Hears every line for as long as it lives. Called on the logging thread, one line at a time; must not log
 /// itself.

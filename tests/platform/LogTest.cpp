@@ -21,13 +21,14 @@ TEST(Log, PrintsLinesAsTheyStandAndHandsThemToListeners) {
     EXPECT_THAT(early->lines(),
                 testing::ElementsAre("\n=== APPLYING PENDING CHANGES ===", "  📌 indented 100%s"));
     early.reset();
+    setLogStream(file, "<", ">");
     log("");
     setLogStream(nullptr);
     log("silent");
     EXPECT_THAT(late.lines(), testing::ElementsAre("  📌 indented 100%s", "", "silent"));
     setLogStream(stdout);
 
-    const std::string expected = "\n=== APPLYING PENDING CHANGES ===\n  📌 indented 100%s\n\n";
+    const std::string expected = "\n=== APPLYING PENDING CHANGES ===\n  📌 indented 100%s\n<>\n";
     std::string printed(200, ' ');
     std::rewind(file);
     printed.resize(std::fread(printed.data(), 1, printed.size(), file));

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdio>
+
+namespace tavrik {
+
+/// Sends the log lines to standard output or standard error. When a person reads both at a terminal, the lines
+/// are dimmed, so that the command's answer stands out among them; not when NO_COLOR is set or the terminal
+/// knows no such thing. Files and other programs get the lines as they stand.
+void sendLogTo(std::FILE* stream);
+
+} // namespace tavrik
