@@ -1,70 +1,48 @@
 #pragma once
 
-#include "platform/Path.h"
 #include "platform/PosixFileManager.h"
 #include "platform/Tools.h"
 #include "support/FileTree.h"
 #include "support/TemporaryFolder.h"
 
-#include <QColor>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <chrono>
-#include <functional>
-#include <string>
-#include <vector>
+#include <gmock/gmock.h>
 
 namespace tavrik::test {
 
-/// The real program on a practice Mac of its own, furnished by the first call.
-class RunningCompanion {
-public:
+inline const std::string kAtlas = "org.example.atlas"; ///< can be restyled
+inline const std::string kIOSApp = "com.example.pocket-tides";
+inline const MacPath kSupport("/Users/practice/Library/Application Support/com.tavrik.Tavrik");
+inline const MacPath kRecoveryFile = kSupport / "PendingChanges/pendingChanges.plist";
+
+using Arguments = std::vector<std::string>;
+
+/// The real program on a practice Mac of its own, whose applications have small icons.
+class RunningCompanion : public testing::Test {
+protected:
     RunningCompanion();
-    ~RunningCompanion();
 
-    ToolResult run(const std::vector<std::string>& arguments) const;
+    /// Expects that exit status.
+    ToolResult run(const Arguments& arguments, int exitStatus = 0) const;
 
-    /// The same for a command that answers with JSON alone on standard output.
-    QJsonArray json(const std::vector<std::string>& arguments) const;
-    QJsonObject object(const std::vector<std::string>& arguments) const;
-
-    /// Runs it and ends it with SIGKILL when the time has come, unless it was quicker. True when it was killed.
-    bool runAndKill(const std::vector<std::string>& arguments, std::chrono::microseconds after) const;
-
-    /// The volume's folder.
-    HostPath root() const;
+    /// The answer with "--json", which is JSON alone.
+    QJsonDocument json(Arguments arguments) const;
 
     /// A file of this test's own outside the volume.
-    HostPath file(const std::string& name, ByteView content) const;
+    std::string file(const std::string& name, ByteView content) const;
 
     /// The same for a picture of one colour, in the format of the name's ending.
-    HostPath picture(const std::string& name, const QColor& colour) const;
+    std::string picture(const std::string& name, const QColor& colour) const;
 
-    /// Where the host keeps a file of the volume.
-    HostPath hostPath(const QJsonValue& macPath) const;
+    QImage pictureAt(const QJsonValue& macPath) const;
 
-    /// The identifier of an application that can be restyled.
-    std::string plainApp() const;
-
-    /// The identifier of the first application for which the test holds.
-    std::string appWhere(const std::function<bool(const QJsonObject&)>& test) const;
-
-    /// What Python's own reader makes of a property list of the volume: JSON, or its complaint.
-    std::string readByPython(const MacPath& propertyList) const;
-
-    /// What a person could lose: both stores, the user's library, the wrapper folder and every application.
-    FileTree valuables() const;
-
-    /// Processes of the volume that are alive.
-    int livingProcesses() const;
-
-private:
-    QJsonDocument document(const std::vector<std::string>& arguments) const;
-
-    TemporaryFolder m_folder;
-    std::string m_earlierDataHome;
+    const TemporaryFolder own;
+    const HostPath root = own.path() / "Tavrik/PracticeMac";
+    PosixFileManager volume{root};
 };
 
 } // namespace tavrik::test
