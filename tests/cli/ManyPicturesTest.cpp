@@ -28,14 +28,14 @@ bool isNear(const QColor& a, const QColor& b) {
 
 /// A whole file of one of the formats that are taken in.
 QByteArray content(const QByteArray& format, const QImage& image) {
-    const QColor colour = image.pixelColor(0, 0);
+    const QByteArray colour = image.pixelColor(0, 0).name().toLatin1();
     if (format == "gif")
-        return QByteArray::fromHex("47494638396101000100800000" + colour.name().toLatin1().mid(1) +
+        return QByteArray::fromHex("47494638396101000100800000" + colour.mid(1) +
                                    "0000002c00000000010001000002024401003b");
     if (format == "svg")
         return "<svg xmlns='http://www.w3.org/2000/svg' width='16' height='200'>"
                "<rect width='16' height='200' fill='" +
-               colour.name().toLatin1() + "'/></svg>";
+               colour + "'/></svg>";
     if (format == "icns")
         return QByteArrayView(icns::encode(image)).toByteArray();
     QBuffer buffer;

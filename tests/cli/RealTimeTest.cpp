@@ -13,8 +13,7 @@ namespace {
 
 using CompanionInRealTime = RunningCompanion;
 
-/// What Python's own readers make of every property list and of the database: a line for its health and one
-/// for each row, or the first complaint.
+/// What Python's readers make of all property lists and the database: its health, then its rows.
 QStringList readByPython(const HostPath& root) {
     constexpr const char* kScript = R"(
 import pathlib, plistlib, sqlite3, sys
