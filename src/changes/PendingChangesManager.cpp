@@ -138,7 +138,7 @@ bool PendingChangesManager::removeIcon(const std::string& bundleID, int displayI
         log("❌ Index out of bounds: " + std::to_string(displayIndex));
         return false;
     }
-    const MacPath icon = display[static_cast<std::size_t>(displayIndex)];
+    const MacPath& icon = display[static_cast<std::size_t>(displayIndex)];
     const bool isPending = std::erase(row.pendingAdditionPaths, icon) > 0;
     if (!isPending)
         row.hiddenPermanentIndices.insert(iconIndex(icon.name()).value());

@@ -85,7 +85,7 @@ std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std
     if (const Status created = createPlainFolder(m_files, m_appSupportURL, *folder); !created)
         return failed(created.error());
     const int index = nextAvailableIndex(bundleID);
-    const MacPath path = *folder / iconFileName(index);
+    MacPath path = *folder / iconFileName(index);
     if (!iconIndex(path.name()))
         return failed({path.string() + " is no name of an icon", EINVAL});
     if (const Status cleared = clearThumbnails(m_files, path); !cleared)

@@ -20,7 +20,7 @@ QImage drawThumbnail(const QImage& picture, ThumbnailSize size) {
         return QImage();
     const int side = static_cast<int>(size);
     const QRect rect = fittedRect(picture.size(), side);
-    const QImage scaled =
+    QImage scaled =
         picture.convertToFormat(kFormat).scaled(rect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (scaled.width() == side && scaled.height() == side)
         return scaled;

@@ -41,7 +41,7 @@ Status writeAtomically(FileManager& files, const MacPath& file, ByteView data) {
 }
 
 Status createAtomically(FileManager& files, const MacPath& file, ByteView data) {
-    const Status created =
+    Status created =
         throughTemporary(files, file, data, [&](const MacPath& fresh) { return files.move(fresh, file); });
     if (!created)
         return created;
