@@ -22,11 +22,8 @@ Result<ApplicationInfo> findApp(const std::vector<ApplicationInfo>& apps, const 
         if (app.bundleID == bundleID)
             return app;
     }
-    if (apps.empty()) {
-        return Error{
-            "The Launchpad database lists no application, or could not be read; it may be locked. Close other "
-            "programs that use it and try again."};
-    }
+    if (apps.empty())
+        return Error{kNoCatalogue};
     std::vector<NearName> names;
     names.reserve(apps.size());
     for (const ApplicationInfo& app : apps)

@@ -1,5 +1,6 @@
 #include "cli/ListCommands.h"
 
+#include "cli/AppLookup.h"
 #include "cli/Companion.h"
 #include "cli/Json.h"
 #include "cli/Staged.h"
@@ -29,8 +30,7 @@ ExitCode AppsCommand::run(Companion& companion) {
     Managers& managers = companion.managers();
     std::vector<ApplicationInfo> apps = managers.apps.loadApplications();
     if (apps.empty())
-        return companion.fail(
-            "The Launchpad database lists no application, or could not be read; it may be locked.");
+        return companion.fail(kNoCatalogue);
     addIcons(companion, apps);
     if (json) {
         companion.say(jsonText(toJson(apps)));
