@@ -1,6 +1,7 @@
 #include "cli/Companion.h"
 
 #include "app/PracticeHost.h"
+#include "cli/AppLookup.h"
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
 
@@ -47,6 +48,15 @@ ExitCode Companion::takeLock(Access access) {
         return lock.error().code == EWOULDBLOCK ? refuse(lock.error().description)
                                                 : fail(lock.error().description);
     return ExitCode::done;
+}
+
+std::variant<ApplicationInfo, ExitCode> Companion::findRestylable(const std::string& bundleID) {
+    Result<ApplicationInfo> app = findApp(m_managers->apps.loadApplications(), bundleID);
+    if (!app)
+        return fail(app.error().description);
+    if (const std::string why = refusal(*app, m_managers->unsupported.contains(bundleID)); !why.empty())
+        return refuse(why);
+    return std::move(*app);
 }
 
 void Companion::say(std::string_view line) const {

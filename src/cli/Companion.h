@@ -9,8 +9,10 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <type_traits>
+#include <variant>
 
 namespace tavrik {
 
@@ -53,6 +55,9 @@ public:
             return std::move(*answer);
         }
     }
+
+    /// An application of the catalogue that can be restyled, or the code to end with, its sentence printed.
+    std::variant<ApplicationInfo, ExitCode> findRestylable(const std::string& bundleID);
 
     /// A line on standard output: what the person asked for.
     void say(std::string_view line) const;

@@ -32,12 +32,11 @@ ExitCode WrapperIconCommand::run(Companion& companion) {
 
     if (const ExitCode opened = companion.open(Access::writing); opened != ExitCode::done)
         return opened;
-    Managers& managers = companion.managers();
-    const Result<ApplicationInfo> app = findApp(managers.apps.loadApplications(), bundleID);
+    const auto found = companion.findRestylable(bundleID);
+    const auto* app = std::get_if<ApplicationInfo>(&found);
     if (!app)
-        return companion.fail(app.error().description);
-    if (const std::string why = refusal(*app, managers.unsupported.contains(bundleID)); !why.empty())
-        return companion.refuse(why);
+        return std::get<ExitCode>(found);
+    Managers& managers = companion.managers();
 
     if (!managers.launchpadDatabase.isWritable())
         return companion.refuse(kLocked);

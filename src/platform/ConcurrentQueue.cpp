@@ -5,6 +5,12 @@
 
 namespace tavrik {
 
+namespace {
+
+thread_local const ConcurrentQueue* current = nullptr;
+
+} // namespace
+
 ConcurrentQueue::ConcurrentQueue(std::string label, unsigned width)
     : m_label(std::move(label)),
       m_width(std::max(width, 1u)) {}
@@ -35,7 +41,12 @@ unsigned ConcurrentQueue::defaultWidth() {
     return std::clamp(std::thread::hardware_concurrency(), 2u, 8u);
 }
 
+bool ConcurrentQueue::isCurrent() const {
+    return current == this;
+}
+
 void ConcurrentQueue::run() {
+    current = this;
     std::unique_lock lock(m_mutex);
     for (;;) {
         ++m_idle;

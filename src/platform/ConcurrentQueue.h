@@ -25,6 +25,9 @@ public:
     /// Adds a work and returns at once. Any thread.
     void async(std::function<void()> work);
 
+    /// Whether the calling thread is one of the queue's own.
+    bool isCurrent() const;
+
     /// The machine's cores, 2 to 8.
     static unsigned defaultWidth();
 

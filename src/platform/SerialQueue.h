@@ -1,11 +1,9 @@
 #pragma once
 
-#include <condition_variable>
-#include <deque>
+#include "platform/ConcurrentQueue.h"
+
 #include <functional>
-#include <mutex>
 #include <string>
-#include <thread>
 
 namespace tavrik {
 
@@ -14,11 +12,8 @@ namespace tavrik {
 class SerialQueue {
 public:
     explicit SerialQueue(std::string label);
-    ~SerialQueue();
-    SerialQueue(const SerialQueue&) = delete;
-    SerialQueue& operator=(const SerialQueue&) = delete;
 
-    const std::string& label() const { return m_label; }
+    const std::string& label() const { return m_queue.label(); }
 
     /// Adds a work and returns at once. Any thread.
     void async(std::function<void()> work);
@@ -27,14 +22,7 @@ public:
     void sync(std::function<void()> work);
 
 private:
-    void run();
-
-    const std::string m_label;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::deque<std::function<void()>> m_works;
-    bool m_stopping = false;
-    std::thread m_thread;
+    ConcurrentQueue m_queue; ///< of one work at a time
 };
 
 } // namespace tavrik
