@@ -27,8 +27,10 @@ void sortByTitle(std::vector<Item>& items, Title title) {
     order.reserve(items.size());
     for (std::size_t index = 0; index < items.size(); ++index)
         order.emplace_back(collator.sortKey(QString::fromStdString(title(items[index]))), index);
-    std::stable_sort(order.begin(), order.end(),
-                     [](const auto& left, const auto& right) { return left.first < right.first; });
+    std::sort(order.begin(), order.end(), [](const auto& left, const auto& right) {
+        const int compared = left.first.compare(right.first);
+        return compared != 0 ? compared < 0 : left.second < right.second;
+    });
     std::vector<Item> sorted;
     sorted.reserve(items.size());
     for (const auto& [key, index] : order)
