@@ -41,11 +41,14 @@ ExitCode PracticeWhereCommand::run(Companion& companion) {
 }
 
 ExitCode PracticeResetCommand::run(Companion& companion) {
+    std::optional<SupportFolderLock> lock; // the old Mac's, to the end
     if (practice::isPracticeMac(companion.practiceRoot())) {
         practice::PracticeMac old(companion.practiceRoot());
-        const auto lock = SupportFolderLock::take(old.mac(), supportFolder(old.mac().volume), Companion::kName);
-        if (!lock && lock.error().code == EWOULDBLOCK)
-            return companion.refuse(lock.error().description);
+        auto taken = SupportFolderLock::take(old.mac(), supportFolder(old.mac().volume), Companion::kName);
+        if (taken)
+            lock.emplace(std::move(*taken));
+        else if (taken.error().code == EWOULDBLOCK)
+            return companion.refuse(taken.error().description);
     }
     if (Status reset = resetPracticeMac(companion.practiceRoot()); !reset)
         return companion.fail(reset.error().description);

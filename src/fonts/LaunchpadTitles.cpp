@@ -44,27 +44,17 @@ void LaunchpadTitles::resetApps() {
 
 std::optional<std::size_t> LaunchpadTitles::rewriteApps(std::string_view fontName) {
     TitleChanges changes(m_database, "Launchpad's apps");
-    {
-        auto rows = changes.prepare(kApps);
-        if (!rows)
-            return std::nullopt;
-        sqlite::Step step = rows->step();
-        for (; step == sqlite::Step::row; step = rows->step()) {
-            const auto row = rows->int64(0);
-            const auto title = rows->text(1);
-            const auto bookmark = rows->blob(3);
-            if (!row || !title || !bookmark)
-                continue;
-            std::string wanted = m_replacer.convert(plainAppName(*title, *bookmark), fontName);
-            if (wanted != *title)
-                changes.add(*row, std::move(wanted));
-        }
-        if (step == sqlite::Step::failed) {
-            changes.fail();
-            return std::nullopt;
-        }
-    }
-    return changes.write(kAppUpdate) ? changes.commit() : std::nullopt;
+    const bool isRead = changes.read(kApps, [&](const sqlite::Statement& app) {
+        const auto row = app.int64(0);
+        const auto title = app.text(1);
+        const auto bookmark = app.blob(3);
+        if (!row || !title || !bookmark)
+            return;
+        std::string wanted = m_replacer.convert(plainAppName(*title, *bookmark), fontName);
+        if (wanted != *title)
+            changes.add(*row, std::move(wanted));
+    });
+    return isRead && changes.write(kAppUpdate) ? changes.commit() : std::nullopt;
 }
 
 std::string LaunchpadTitles::plainAppName(const std::string& title, ByteView bookmark) const {
@@ -98,34 +88,24 @@ std::optional<std::size_t> LaunchpadTitles::rewriteFolders(std::string_view font
     TitleChanges changes(m_database, "Launchpad's folders");
     const auto known = m_settings.getAllFolderBackups();
     std::map<RowID, FolderBackup> backups;
-    {
-        auto rows = changes.prepare(kFolders);
-        if (!rows)
-            return std::nullopt;
-        sqlite::Step step = rows->step();
-        for (; step == sqlite::Step::row; step = rows->step()) {
-            const auto row = rows->int64(0);
-            const auto title = rows->text(1);
-            // Pages are groups too, and have no name.
-            if (!row || !title || title->empty())
-                continue;
-            const auto found = known.find(RowID{*row});
-            const auto backup = found == known.end() ? std::nullopt : std::optional(found->second);
-            FolderName name = naming(m_replacer.convertToNormal(*title), backup,
-                                     styleShownBy(*title, backup, shown, m_replacer));
-            for (const std::string& line : name.lines)
-                log(line);
-            if (name.save)
-                backups.emplace(RowID{*row}, std::move(*name.save));
-            if (std::string wanted = m_replacer.convert(name.base, fontName); wanted != *title)
-                changes.add(*row, std::move(wanted));
-        }
-        if (step == sqlite::Step::failed) {
-            changes.fail();
-            return std::nullopt;
-        }
-    }
-    if (!changes.write(kFolderUpdate))
+    const bool isRead = changes.read(kFolders, [&](const sqlite::Statement& folder) {
+        const auto row = folder.int64(0);
+        const auto title = folder.text(1);
+        // Pages are groups too, and have no name.
+        if (!row || !title || title->empty())
+            return;
+        const auto found = known.find(RowID{*row});
+        const auto backup = found == known.end() ? std::nullopt : std::optional(found->second);
+        FolderName name =
+            naming(m_replacer.convertToNormal(*title), backup, styleShownBy(*title, backup, shown, m_replacer));
+        for (const std::string& line : name.lines)
+            log(line);
+        if (name.save)
+            backups.emplace(RowID{*row}, std::move(*name.save));
+        if (std::string wanted = m_replacer.convert(name.base, fontName); wanted != *title)
+            changes.add(*row, std::move(wanted));
+    });
+    if (!isRead || !changes.write(kFolderUpdate))
         return std::nullopt;
     // The commit may take the last copy of a name's capitals, so the backup must be safe before it.
     if (!m_settings.saveFolderBackups(backups)) {

@@ -22,6 +22,16 @@ std::optional<sqlite::Statement> TitleChanges::prepare(std::string_view sql) {
     return std::nullopt;
 }
 
+bool TitleChanges::read(std::string_view query, const std::function<void(const sqlite::Statement&)>& row) {
+    auto rows = prepare(query);
+    if (!rows)
+        return false;
+    sqlite::Step step = rows->step();
+    for (; step == sqlite::Step::row; step = rows->step())
+        row(*rows);
+    return step == sqlite::Step::done || fail();
+}
+
 bool TitleChanges::write(const char* update) {
     auto statement = prepare(update);
     if (!statement)

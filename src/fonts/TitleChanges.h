@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,9 +19,8 @@ public:
     /// `what` names the titles in the log.
     TitleChanges(sqlite::Connection& database, std::string what);
 
-    /// Nothing when the transaction did not begin or the statement cannot be prepared. The statement must be
-    /// gone before the commit.
-    std::optional<sqlite::Statement> prepare(std::string_view sql);
+    /// Hands over every row of a query. False when the transaction did not begin or not all rows can be read.
+    [[nodiscard]] bool read(std::string_view query, const std::function<void(const sqlite::Statement&)>& row);
 
     void add(std::int64_t row, std::string title) { m_changes.push_back({row, std::move(title)}); }
 
@@ -30,10 +30,10 @@ public:
     /// How many titles were changed, once they are committed.
     std::optional<std::size_t> commit();
 
-    /// Says why the titles stay as they were; false, for the caller to return.
+private:
+    std::optional<sqlite::Statement> prepare(std::string_view sql);
     bool fail();
 
-private:
     struct Change {
         std::int64_t row;
         std::string title;

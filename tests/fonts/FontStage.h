@@ -4,14 +4,10 @@
 #include "model/SettingsManager.h"
 #include "model/UnsupportedAppsManager.h"
 #include "platform/PathRules.h"
-#include "platform/RecordingClock.h"
 #include "platform/Sqlite.h"
 #include "platform/practice/Layout.h"
-#include "platform/practice/PracticeMac.h"
-#include "practice/session/VirtualSession.h"
-#include "support/FailingFileManager.h"
 #include "support/LogRecorder.h"
-#include "support/practice/PracticeVolume.h"
+#include "support/practice/VirtualMac.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
 #include "system/IconManager.h"
@@ -39,7 +35,7 @@ struct FontProgram {
 };
 
 /// A furnished Mac in virtual time, with folders in every mixture of cases, and the program on it.
-class FontStage : public testing::Test {
+class FontStage : public testing::Test, protected VirtualMac {
 protected:
     /// Every title by what it belongs to: "folder 17", "app 4", "tile 0".
     using Titles = std::map<std::string, std::string>;
@@ -102,14 +98,6 @@ protected:
         return all;
     }
 
-    PracticeVolume volume;
-    RecordingClock clock;
-    practice::VirtualSession session{volume.root(), clock};
-    practice::PracticeMac practice{volume.root(), {.clock = &clock, .tools = &session}};
-    FailingFileManager files{practice.mac().files};
-    Mac& own = practice.mac();
-    Mac mac{own.volume,   files,       own.bookmarks, own.workspace, session,   own.notifications,
-            own.defaults, own.machine, clock,         own.alerts,    own.random};
     const MacPath dockFile = dockPreferencesPath(practice::kHome);
     std::optional<FontProgram> program;
     std::vector<RowID> folders;

@@ -3,15 +3,11 @@
 #include "model/SettingsManager.h"
 #include "model/UnsupportedAppsManager.h"
 #include "platform/PathRules.h"
-#include "platform/RecordingClock.h"
 #include "platform/practice/Layout.h"
-#include "platform/practice/PracticeMac.h"
 #include "practice/dock/Dock.h"
-#include "practice/session/VirtualSession.h"
-#include "support/FailingFileManager.h"
 #include "support/FileTree.h"
 #include "support/LogRecorder.h"
-#include "support/practice/PracticeVolume.h"
+#include "support/practice/VirtualMac.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
 #include "system/IconManager.h"
@@ -57,7 +53,7 @@ inline ApplicationInfo application(const std::string& bundleID, const char* bund
 }
 
 /// A furnished Mac in virtual time with a Dock, and the program on it.
-class WrapperStage : public testing::Test {
+class WrapperStage : public testing::Test, protected VirtualMac {
 protected:
     WrapperStage() { start(); }
 
@@ -140,14 +136,6 @@ protected:
     const ApplicationInfo atlas = application("org.example.atlas", "/Applications/Atlas.app");
     const ApplicationInfo tips = application("com.apple.tips", "/System/Applications/Tips.app");
 
-    PracticeVolume volume;
-    RecordingClock clock;
-    practice::VirtualSession session{volume.root(), clock};
-    practice::PracticeMac practice{volume.root(), {.clock = &clock, .tools = &session}};
-    FailingFileManager files{practice.mac().files};
-    Mac& own = practice.mac();
-    Mac mac{own.volume,   files,       own.bookmarks, own.workspace, session,   own.notifications,
-            own.defaults, own.machine, clock,         own.alerts,    own.random};
     std::optional<Program> program;
     LogRecorder log;
 
