@@ -8,6 +8,8 @@
 #include "platform/Result.h"
 
 #include <array>
+#include <cstddef>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -74,6 +76,10 @@ public:
     /// An icon that the store has just saved: it comes last in the row and is chosen. A path that is not a
     /// pending icon of this application, or is not there, is refused.
     bool addIcon(const std::string& bundleID, const MacPath& pendingIcon);
+    /// The same for many applications at once: one write of the recovery file, one notification. An icon that
+    /// the application's row shows already is chosen where it stands. What is refused is logged and left out;
+    /// the others are staged. Returns how many were.
+    std::size_t addIcons(const std::map<std::string, MacPath>& icons);
     /// The icon at this place of the row. A pending one is deleted at once, a permanent one when the changes
     /// are applied. The choice stays with its icon; when that is the removed one, the application's own is
     /// chosen.

@@ -1,0 +1,1 @@
+#include "backups/BackupArchive.h"

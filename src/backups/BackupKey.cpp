@@ -1,0 +1,1 @@
+#include "backups/BackupKey.h"

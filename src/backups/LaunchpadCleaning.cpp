@@ -1,0 +1,1 @@
+#include "backups/LaunchpadCleaning.h"

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/ApplicationInfo.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavrik {
+
+class FontReplacer;
+
+/// How a picture was matched to an application, the surest first.
+enum class MatchKind {
+    identifier,  ///< the file is named by the bundle identifier
+    name,        ///< by the application's name exactly
+    foldedName,  ///< by its name but for case, accents, styles, punctuation and version words
+    subsequence, ///< its letters occur in the name in order: a guess, scored
+};
+
+struct IconMatch {
+    std::string fileName; ///< the picture's, as the person has it
+    std::string bundleID;
+    std::string appName;
+    MatchKind kind{};
+    double score = 1; ///< 0 to 1; 1 for every kind but a guess
+
+    bool operator==(const IconMatch&) const = default;
+};
+
+struct IconMatches {
+    std::vector<IconMatch> sure;     ///< at most one for each application and for each file
+    std::vector<IconMatch> doubtful; ///< guesses, the best for each application that has no sure one
+    std::vector<std::string> unmatched;
+};
+
+/// Finds an application for each picture by the picture's file name without its extension. Pure; any thread.
+/// The same input gives the same matches, whatever its order.
+IconMatches matchIcons(const std::vector<std::string>& fileNames, const std::vector<ApplicationInfo>& apps,
+                       const FontReplacer& fonts);
+
+} // namespace tavrik

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/Bytes.h"
+#include "platform/Path.h"
+#include "platform/Result.h"
+#include "themes/Theme.h"
+
+#include <QImage>
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tavrik {
+
+struct Mac;
+
+/// An icon of a theme: a file named by its application's bundle identifier.
+struct ThemeIcon {
+    std::string bundleID;
+    MacPath file; ///< "<bundle identifier>.png" or ".icns"
+
+    bool operator==(const ThemeIcon&) const = default;
+};
+
+/// The themes on disk, a folder for each in "Themes" of the support folder: "Info.plist" and the folder
+/// "Icons". The one place that makes, renames and removes anything there. Names become paths only when they are
+/// safe; a folder that is a symbolic link is never read, written or removed through.
+///
+/// Every change is one step on disk: a theme appears and goes whole, an icon is the old one or the new one. A
+/// kill leaves at worst a folder or file whose name begins with a full stop, which counts as nothing and which
+/// `removeLeftovers` removes. Blocks on the disk; any thread; two changes of one theme must take turns.
+class ThemeLibrary {
+public:
+    explicit ThemeLibrary(Mac& mac);
+
+    const MacPath& path() const { return m_path; }
+
+    MacPath folderOf(const std::string& themeID) const { return m_path / themeID; }
+
+    MacPath iconsOf(const std::string& themeID) const { return folderOf(themeID) / "Icons"; }
+
+    Status createFolder();
+
+    /// The themes whose record can be read, in byte order of their folders. Logs as it goes.
+    std::vector<Theme> load() const;
+
+    /// Makes a theme with these icons: PNG content by bundle identifier. There whole, or not at all.
+    Status create(const Theme& theme, const std::map<std::string, Bytes>& icons = {});
+
+    /// Replaces the record.
+    Status update(const Theme& theme);
+
+    /// By bundle identifier; of both formats the PNG.
+    std::vector<ThemeIcon> icons(const std::string& themeID) const;
+    /// The file to show for an application, the hidden ones passed over: the PNG, else the ICNS.
+    std::optional<MacPath> iconFor(const std::string& themeID, const std::string& bundleID,
+                                   const std::set<std::string>& hidden) const;
+
+    /// Writes "<bundle identifier>.png", complete and flushed; an earlier one is replaced.
+    Status writeIcon(const std::string& themeID, const std::string& bundleID, ByteView png);
+
+    /// Gives an icon to another application. The extension stays. Refused when either name is no possible file
+    /// name or the new one is taken.
+    Status renameIcon(const std::string& themeID, const std::string& fileName, const std::string& newBundleID);
+
+    /// Both are fine when there is none. For the apply of staged deletions.
+    Status removeIcon(const std::string& themeID, const std::string& fileName);
+    Status remove(const std::string& themeID);
+
+    /// What a kill left. To be called at the start of a program that may write.
+    void removeLeftovers();
+
+private:
+    Mac& m_mac;
+    const MacPath m_supportFolder;
+    const MacPath m_path;
+};
+
+/// The bundle identifier that an icon file is for; nothing when the name is none that a theme uses.
+std::optional<std::string> bundleIDOfIcon(const std::string& fileName);
+
+} // namespace tavrik
