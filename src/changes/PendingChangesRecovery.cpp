@@ -3,10 +3,10 @@
 #include "icons/IconFiles.h"
 #include "icons/IconStore.h"
 #include "icons/IconTransfer.h"
-#include "icons/PlainFolders.h"
 #include "model/SettingsManager.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
+#include "platform/PlainFolders.h"
 #include "platform/Threads.h"
 
 #include <algorithm>

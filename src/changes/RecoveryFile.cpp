@@ -1,10 +1,10 @@
 #include "changes/RecoveryFile.h"
 
 #include "changes/StagedChangesCoding.h"
-#include "icons/PlainFolders.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
+#include "platform/PlainFolders.h"
 
 #include <algorithm>
 #include <cerrno>

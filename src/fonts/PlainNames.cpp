@@ -2,8 +2,8 @@
 
 #include "fonts/FontReplacer.h"
 #include "platform/PathRules.h"
+#include "system/DockTiles.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <algorithm>
@@ -15,15 +15,6 @@ namespace {
 QString folded(std::string_view name) {
     const QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
     return text.normalized(QString::NormalizationForm_C).toLower();
-}
-
-/// Of a file URL, or of the plain path that scripts put in its place.
-MacPath pathOf(const std::string& url) {
-    constexpr std::string_view kScheme = "file://";
-    if (!url.starts_with(kScheme))
-        return MacPath(url);
-    const auto encoded = QByteArray::fromStdString(url.substr(kScheme.size()));
-    return MacPath(QByteArray::fromPercentEncoding(encoded).toStdString());
 }
 
 /// Whether the label is written in a style that gives a capital and its small letter one shape.
@@ -49,7 +40,7 @@ std::string bundleName(const MacPath& bundle) {
 }
 
 std::string plainLabel(const std::string& label, const std::string& url, const FontReplacer& replacer) {
-    const MacPath bundle = pathOf(url);
+    const MacPath bundle = dock::pathOf(url);
     if (isWrapperPath(bundle) && !bundle.stem().empty())
         return bundle.stem();
     std::string plain = replacer.convertToNormal(label);

@@ -3,12 +3,12 @@
 #include "icons/IconCache.h"
 #include "icons/IconFiles.h"
 #include "icons/IconSweep.h"
-#include "icons/PlainFolders.h"
 #include "model/SettingsManager.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/PathComponent.h"
+#include "platform/PlainFolders.h"
 #include "platform/Png.h"
 
 #include <algorithm>

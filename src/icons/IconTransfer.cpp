@@ -3,13 +3,13 @@
 #include "icons/IconFiles.h"
 #include "icons/IconStore.h"
 #include "icons/IconWhereabouts.h"
-#include "icons/PlainFolders.h"
 #include "model/SettingsManager.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/PathComponent.h"
 #include "platform/PathRules.h"
+#include "platform/PlainFolders.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -18,6 +18,7 @@ struct FileAttributes {
     FileType type = FileType::other;
     std::uint64_t size = 0; ///< bytes
     Date modified;
+    Date created;                  ///< where the file system does not tell, `modified`
     std::uint32_t permissions = 0; ///< the nine rights bits and the three above them
     std::uint64_t fileID = 0;      ///< the inode
 };

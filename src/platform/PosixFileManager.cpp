@@ -63,6 +63,7 @@ Result<FileAttributes> PosixFileManager::attributes(const MacPath& path, Links l
     return FileAttributes{.type = typeOf(status.st_mode),
                           .size = static_cast<std::uint64_t>(status.st_size),
                           .modified = dateOf(modificationTime(status)),
+                          .created = dateOf(creationTime(status)),
                           .permissions = static_cast<std::uint32_t>(status.st_mode & 07777),
                           .fileID = static_cast<std::uint64_t>(status.st_ino)};
 }

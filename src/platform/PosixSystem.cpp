@@ -45,4 +45,12 @@ timespec modificationTime(const struct stat& status) {
 #endif
 }
 
+timespec creationTime(const struct stat& status) {
+#ifdef __APPLE__
+    return status.st_birthtimespec;
+#else
+    return modificationTime(status);
+#endif
+}
+
 } // namespace tavrik

@@ -18,4 +18,7 @@ namespace tavrik {
 
 timespec modificationTime(const struct stat& status);
 
+/// The modification time where POSIX is all there is.
+timespec creationTime(const struct stat& status);
+
 } // namespace tavrik

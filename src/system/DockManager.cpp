@@ -87,7 +87,7 @@ bool DockManager::restoreDockEntry(const std::string& bundleID) {
         log("Failed to resolve bookmark: " + target.error().description);
     // The wrapper's date would say that the application had changed.
     if (saved->fileModDate)
-        tile.setModified(*saved->fileModDate);
+        tile.setModified(&*saved->fileModDate);
     log("Restored original Dock entry for " + bundleID);
 
     dock::raiseModCount(*dock);

@@ -1,5 +1,7 @@
 #include "system/DockTiles.h"
 
+#include <QByteArray>
+
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -70,15 +72,32 @@ void Tile::setURL(std::string_view url) {
 }
 
 void Tile::setModified(Date date) {
-    setModified(plist::Value(static_cast<std::int64_t>(std::floor(date.sinceReference))));
+    const plist::Value seconds(static_cast<std::int64_t>(std::floor(date.sinceReference)));
+    setModified(&seconds);
 }
 
-void Tile::setModified(const plist::Value& recorded) {
-    m_data->insert_or_assign(kModified, recorded);
+void Tile::setModified(const plist::Value* recorded) {
+    if (recorded)
+        m_data->insert_or_assign(kModified, *recorded);
+    else
+        m_data->erase(kModified);
 }
 
 void Tile::setLabel(std::string_view label) {
     m_data->insert_or_assign(kLabel, plist::Value(label));
+}
+
+MacPath pathOf(std::string_view url) {
+    constexpr std::string_view kScheme = "file://";
+    if (!url.starts_with(kScheme))
+        return MacPath(url);
+    const std::string_view encoded = url.substr(kScheme.size());
+    const QByteArray bytes(encoded.data(), static_cast<qsizetype>(encoded.size()));
+    return MacPath(QByteArray::fromPercentEncoding(bytes).toStdString());
+}
+
+std::vector<Tile> allTiles(plist::Value& preferences) {
+    return tilesThat(preferences, [](const Tile&) { return true; });
 }
 
 std::vector<Tile> appTiles(plist::Value& preferences) {

@@ -2,6 +2,7 @@
 
 #include "platform/Bytes.h"
 #include "platform/Date.h"
+#include "platform/Path.h"
 #include "platform/PropertyList.h"
 
 #include <string>
@@ -36,13 +37,19 @@ public:
     void setURL(std::string_view url);
     /// In whole seconds since 2001, rounded down.
     void setModified(Date date);
-    /// As `modified` gave it.
-    void setModified(const plist::Value& recorded);
+    /// As `modified` gave it; null takes the date away.
+    void setModified(const plist::Value* recorded);
     void setLabel(std::string_view label);
 
 private:
     plist::Dictionary* m_data = nullptr;
 };
+
+/// Where a tile's URL leads: a file URL, or the plain path that scripts put in its place.
+MacPath pathOf(std::string_view url);
+
+/// The tiles of "persistent-apps" that have a description, spacers among them, in Dock order.
+std::vector<Tile> allTiles(plist::Value& preferences);
 
 /// The tiles of "persistent-apps" that carry a bundle identifier, in Dock order.
 std::vector<Tile> appTiles(plist::Value& preferences);

@@ -1,4 +1,4 @@
-#include "icons/PlainFolders.h"
+#include "platform/PlainFolders.h"
 
 #include "platform/FileManager.h"
 
