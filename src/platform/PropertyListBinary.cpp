@@ -2,7 +2,9 @@
 
 #include "platform/Utf8.h"
 
+#include <algorithm>
 #include <bit>
+#include <map>
 #include <optional>
 #include <unordered_map>
 #include <unordered_set>
@@ -53,10 +55,6 @@ std::optional<std::string> encoded(std::string_view text) {
     return isASCII ? counted(0x50, text.size()) + std::string(text) : counted(0x60, units.size() / 2) + units;
 }
 
-std::optional<std::string> encoded(const Bytes& data) {
-    return counted(0x40, data.size()) + std::string(textOf(data));
-}
-
 std::optional<std::string> encoded(Date date) {
     return number(0x30, std::bit_cast<std::uint64_t>(date.sinceReference), 8);
 }
@@ -90,7 +88,16 @@ std::optional<std::string> encoded(UID uid) {
     return object;
 }
 
-/// Numbers the objects, equal ones but containers once, then writes them.
+/// Data may be large: that of different sizes is never looked at.
+struct BySizeThenContent {
+    bool operator()(ByteView first, ByteView second) const {
+        return first.size() != second.size() ? first.size() < second.size()
+                                             : std::ranges::lexicographical_compare(first, second);
+    }
+};
+
+/// Numbers the objects, equal ones but containers once, then writes them. The value must outlive it: data is
+/// not copied before it is written.
 class Writer {
 public:
     /// The number of the value's object; nothing when the format cannot hold it or something in it.
@@ -98,15 +105,22 @@ public:
         return std::visit([this](const auto& content) { return addContent(content); }, value.content());
     }
 
-    Bytes bytes() const {
+    Bytes bytes(std::size_t room) const {
         const std::size_t referenceSize = sizeOf(m_objects.size());
         const std::string_view magic = "bplist00";
-        Bytes list(magic.begin(), magic.end());
+        constexpr std::size_t kTrailerSize = 32;
+        std::size_t size = magic.size() + m_objects.size() * 8 + kTrailerSize;
+        for (const Object& object : m_objects)
+            size += object.start.size() + object.data.size() + object.references.size() * referenceSize;
+        Bytes list;
+        list.reserve(size + room);
+        list.insert(list.end(), magic.begin(), magic.end());
         std::vector<std::size_t> offsets;
         offsets.reserve(m_objects.size());
         for (const Object& object : m_objects) {
             offsets.push_back(list.size());
             list.insert(list.end(), object.start.begin(), object.start.end());
+            list.insert(list.end(), object.data.begin(), object.data.end());
             for (const std::size_t reference : object.references)
                 appendBigEndian(list, reference, referenceSize);
         }
@@ -123,7 +137,8 @@ public:
 
 private:
     struct Object {
-        std::string_view start; ///< all of it, but for a container's references
+        std::string_view start; ///< all of it, but for data and a container's references
+        ByteView data;
         std::vector<std::size_t> references;
     };
 
@@ -134,12 +149,19 @@ private:
             return std::nullopt;
         const auto [entry, isNew] = m_numbers.try_emplace(std::move(*object), m_objects.size());
         if (isNew)
-            m_objects.push_back({entry->first, {}});
+            m_objects.push_back({entry->first, {}, {}});
+        return entry->second;
+    }
+
+    std::optional<std::size_t> addContent(const Bytes& data) {
+        const auto [entry, isNew] = m_dataNumbers.try_emplace(data, m_objects.size());
+        if (isNew)
+            addObject(counted(0x40, data.size()), data);
         return entry->second;
     }
 
     std::optional<std::size_t> addContent(const Array& array) {
-        const std::size_t number = addContainer(counted(0xA0, array.size()));
+        const std::size_t number = addObject(counted(0xA0, array.size()));
         std::vector<std::size_t> items;
         items.reserve(array.size());
         for (const Value& value : array) {
@@ -153,7 +175,7 @@ private:
     }
 
     std::optional<std::size_t> addContent(const Dictionary& dictionary) {
-        const std::size_t number = addContainer(counted(0xD0, dictionary.size()));
+        const std::size_t number = addObject(counted(0xD0, dictionary.size()));
         std::vector<std::size_t> keysAndValues(2 * dictionary.size());
         std::size_t next = 0;
         for (const auto& [key, value] : dictionary) {
@@ -168,23 +190,24 @@ private:
         return number;
     }
 
-    std::size_t addContainer(std::string start) {
-        m_objects.push_back({*m_containerStarts.insert(std::move(start)).first, {}});
+    std::size_t addObject(std::string start, ByteView data = {}) {
+        m_objects.push_back({*m_starts.insert(std::move(start)).first, data, {}});
         return m_objects.size() - 1;
     }
 
     std::vector<Object> m_objects;
-    std::unordered_map<std::string, std::size_t> m_numbers; ///< of each object but containers
-    std::unordered_set<std::string> m_containerStarts;
+    std::unordered_map<std::string, std::size_t> m_numbers; ///< of each object but data and containers
+    std::map<ByteView, std::size_t, BySizeThenContent> m_dataNumbers;
+    std::unordered_set<std::string> m_starts; ///< of data and containers
 };
 
 } // namespace
 
-Result<Bytes> toBinary(const Value& value) {
+Result<Bytes> toBinary(const Value& value, std::size_t room) {
     Writer writer;
     if (!writer.add(value))
         return Error{"The property list holds a text that is not UTF-8 or holds NUL, or a UID above 32 bits"};
-    return writer.bytes();
+    return writer.bytes(room);
 }
 
 } // namespace tavrik::plist
