@@ -2,10 +2,11 @@
 
 #include "backups/BackupArchive.h"
 #include "backups/BackupKey.h"
-#include "platform/Machine.h"
 #include "platform/PropertyList.h"
 #include "platform/Random.h"
 #include "support/LogRecorder.h"
+#include "support/NumberedMachine.h"
+#include "tests/backups/Hex.h"
 
 #include <gtest/gtest.h>
 
@@ -16,16 +17,6 @@
 namespace tavrik {
 
 namespace {
-
-struct NumberedMachine : Machine {
-    explicit NumberedMachine(std::optional<std::string> number) : serial(std::move(number)) {}
-
-    std::optional<std::string> serialNumber() const override { return serial; }
-
-    SystemVersion systemVersion() const override { return {}; }
-
-    std::optional<std::string> serial;
-};
 
 /// Counts up from zero: the nonce of the known answer.
 struct CountingRandom : Random {
@@ -44,19 +35,10 @@ Bytes text(std::size_t size) {
     return bytes;
 }
 
-std::string hex(ByteView bytes) {
-    std::string digits;
-    for (const std::uint8_t byte : bytes) {
-        digits += "0123456789abcdef"[byte >> 4];
-        digits += "0123456789abcdef"[byte & 0xF];
-    }
-    return digits;
-}
-
 class BackupContainerTest : public testing::Test {
 protected:
     test::LogRecorder m_log;
-    NumberedMachine m_machine{"C02TAVRIK001"};
+    test::NumberedMachine m_machine{"C02TAVRIK001"};
     SystemRandom m_random;
     const BackupContainer m_container{m_machine, m_random};
 };
@@ -68,12 +50,12 @@ TEST_F(BackupContainerTest, IsTheKnownOneForAKnownSerialNumberAndNonce) {
     CountingRandom counting;
     const auto key = deriveBackupKey(m_machine);
     ASSERT_TRUE(key);
-    EXPECT_EQ(hex(key->bytes()), "022235852188652b8475a72ccc72378ceab5aebac50961812a6c857e5337a585");
+    EXPECT_EQ(test::hex(key->bytes()), "022235852188652b8475a72ccc72378ceab5aebac50961812a6c857e5337a585");
     const auto archive = bytesOf("the Dock and Launchpad");
     const auto sealed = BackupContainer(m_machine, counting).seal(Bytes(archive.begin(), archive.end()));
     ASSERT_TRUE(sealed);
     EXPECT_EQ(
-        hex(*sealed),
+        test::hex(*sealed),
         "000102030405060708090a0bf83006d031c1d8bc876545ac0cf30edec92d55340453c7d226bf7d0e1ea4db91ab828ca41e94");
 }
 
@@ -133,7 +115,7 @@ TEST_F(BackupContainerTest, DoesNotOpenWithAnyByteFlippedOrAnyLengthCut) {
     Bytes longer = sealed;
     longer.push_back(0);
     EXPECT_TRUE(isRefused(longer));
-    NumberedMachine otherMachine("C02TAVRIK002");
+    const test::NumberedMachine otherMachine("C02TAVRIK002");
     EXPECT_FALSE(BackupContainer(otherMachine, m_random).open(sealed));
     EXPECT_TRUE(m_log.lines().back().starts_with("Failed to decrypt backup: "));
 }
