@@ -4,6 +4,8 @@
 #include "platform/Result.h"
 #include "themes/Theme.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -21,6 +23,7 @@ inline constexpr std::size_t kLargestThemeFile = 512u << 20;  ///< bytes of the 
 inline constexpr std::size_t kLargestThemeSize = 1024u << 20; ///< bytes of all that is in it
 inline constexpr std::size_t kLargestThemeIcon = 32u << 20;   ///< bytes of one icon file
 inline constexpr std::size_t kMostThemeIcons = 5'000;
+inline constexpr std::uint64_t kMostThemePixels = 8ull << 30; ///< of all icons together
 
 /// Equal packages give equal bytes. The icons are stored as they are: they are compressed already. Pure; any
 /// thread.
