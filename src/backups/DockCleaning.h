@@ -1,6 +1,10 @@
 #pragma once
 
 #include "platform/Bytes.h"
+#include "platform/Path.h"
+#include "platform/PropertyList.h"
+
+#include <optional>
 
 namespace tavrik {
 
@@ -8,6 +12,10 @@ class DatabaseManager;
 class FontReplacer;
 class SettingsManager;
 struct Mac;
+
+namespace dock {
+class Tile;
+}
 
 /// Takes out of a copy of the Dock's preferences everything that the program put into them: a wrapper's tile
 /// gets back the saved first bookmark of the original, else a fresh one, with the original's URL and
@@ -23,6 +31,17 @@ public:
     Bytes clean(Bytes dockPlist);
 
 private:
+    /// What the tile of an original has.
+    struct Original {
+        MacPath path;
+        Bytes bookmark;
+        std::optional<plist::Value> modified;
+    };
+
+    bool pointToOriginal(dock::Tile& tile, const MacPath& wrapper) const;
+    std::optional<Original> originalOf(const dock::Tile& tile, const MacPath& wrapper) const;
+    std::optional<MacPath> originalPath(const MacPath& wrapper) const;
+
     Mac& m_mac;
     SettingsManager& m_settings;
     const DatabaseManager& m_database;

@@ -72,8 +72,8 @@ void Tile::setURL(std::string_view url) {
 }
 
 void Tile::setModified(Date date) {
-    const plist::Value seconds(static_cast<std::int64_t>(std::floor(date.sinceReference)));
-    setModified(&seconds);
+    const plist::Value recorded = recordedDate(date);
+    setModified(&recorded);
 }
 
 void Tile::setModified(const plist::Value* recorded) {
@@ -85,6 +85,10 @@ void Tile::setModified(const plist::Value* recorded) {
 
 void Tile::setLabel(std::string_view label) {
     m_data->insert_or_assign(kLabel, plist::Value(label));
+}
+
+plist::Value recordedDate(Date date) {
+    return static_cast<std::int64_t>(std::floor(date.sinceReference));
 }
 
 MacPath pathOf(std::string_view url) {

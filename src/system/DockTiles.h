@@ -35,7 +35,6 @@ public:
     void setBookmark(const Bytes& bookmark);
     /// Makes the tile's "file-data" when it has none.
     void setURL(std::string_view url);
-    /// In whole seconds since 2001, rounded down.
     void setModified(Date date);
     /// As `modified` gave it; null takes the date away.
     void setModified(const plist::Value* recorded);
@@ -44,6 +43,9 @@ public:
 private:
     plist::Dictionary* m_data = nullptr;
 };
+
+/// A date as the program writes it into tiles: whole seconds since 2001, rounded down.
+plist::Value recordedDate(Date date);
 
 /// Where a tile's URL leads: a file URL, or the plain path that scripts put in its place.
 MacPath pathOf(std::string_view url);

@@ -1,0 +1,133 @@
+#include "backups/DockCleaning.h"
+
+#include "fonts/FontStage.h"
+#include "platform/Bookmarks.h"
+#include "system/DockTiles.h"
+
+namespace tavrik::test {
+namespace {
+
+const std::string kAtlas = "org.example.atlas";
+
+/// A Dock whose tiles for Atlas and the calendar lead to wrappers, beside what it was before.
+class DockCleaningTest : public FontStage {
+protected:
+    /// The preferences without what counts changes.
+    static plist::Value steady(plist::Value dock) {
+        dock.as<plist::Dictionary>()->erase("mod-count");
+        dock.as<plist::Dictionary>()->erase("RecentlyUsedApps");
+        return dock;
+    }
+
+    void repoint() {
+        for (const PinnedTile& tile : volume.pinnedTiles()) {
+            if (tile.bundleID != kAtlas && tile.bundleID != "com.apple.iCal")
+                continue;
+            const MacPath bundle = wrapper.parent() / tile.path.name();
+            ASSERT_TRUE(mac.files.createFolder(bundle));
+            ASSERT_TRUE(mac.files.createLink(bundle / "Contents", (tile.path / "Contents").string()));
+            ASSERT_TRUE(program->dock.updateDockEntry(tile.bundleID, bundle));
+        }
+    }
+
+    Bytes clean(const Bytes& dock) {
+        DockCleaning cleaning(mac, program->settings, program->database, fonts().fontReplacer());
+        return cleaning.clean(dock);
+    }
+
+    /// The tile for Atlas after a cleaning of the Dock as it is.
+    dock::Tile cleanedAtlas() {
+        cleaned = *plist::parse(clean(*mac.files.read(dockFile)));
+        return dock::findTile(cleaned, kAtlas);
+    }
+
+    const MacPath atlas{"/Applications/Atlas.app"};
+    const MacPath wrapper = wrapperFolder(practice::kHome) / "Atlas.app";
+    plist::Value cleaned;
+};
+
+TEST_F(DockCleaningTest, GivesTheDockThatWasThereBefore) {
+    const plist::Value untouched = volume.dockPreferences();
+    repoint();
+    for (const auto& [styles, line] :
+         std::vector<std::pair<Styles, std::string>>{{{}, "2 Tavrik bookmarks and 0 styled names in Dock"},
+                                                     {{kBold}, "2 Tavrik bookmarks and "},
+                                                     {{kCaps}, "2 Tavrik bookmarks and "}}) {
+        change(styles);
+        log.clear();
+        const Bytes before = *mac.files.read(dockFile);
+        const Bytes after = clean(before);
+        EXPECT_EQ(steady(*plist::parse(after)), steady(untouched)) << testing::PrintToString(styles);
+        EXPECT_TRUE(log.mentions(line));
+        EXPECT_TRUE(log.has("  🔄 Swapping Tavrik bookmark for original: Atlas"));
+        EXPECT_EQ(log.has("  🔤 Cleaning font from: " + styled("Atlas", kBold)), styles == Styles{kBold});
+        EXPECT_EQ(std::string(textOf(after).substr(0, 8)), "bplist00");
+        EXPECT_EQ(clean(after), after) << "cleaning twice changes nothing more";
+        EXPECT_TRUE(log.has("  ℹ️ Dock plist is already clean"));
+        EXPECT_EQ(*mac.files.read(dockFile), before) << "the file is only read";
+    }
+}
+
+TEST_F(DockCleaningTest, KeepsALabelInTheUsersLanguageAndADateThatWasNotThere) {
+    plist::Value dock = volume.dockPreferences();
+    dock::Tile tile = dock::findTile(dock, kAtlas);
+    tile.setLabel("Atlante");
+    tile.setModified(nullptr);
+    ASSERT_TRUE(program->dock.writeDockPlist(dock));
+    repoint();
+    EXPECT_EQ(steady(*plist::parse(clean(*mac.files.read(dockFile)))), steady(dock));
+}
+
+TEST_F(DockCleaningTest, FindsTheOriginalWithoutASavedBookmark) {
+    repoint();
+    const MacPath elsewhere("/Volumes/Disk/Atlas.app");
+    ASSERT_TRUE(mac.files.createFolder(elsewhere));
+    ASSERT_TRUE(mac.files.setModified(atlas, Date{1234.75}));
+    ASSERT_TRUE(mac.files.setModified(elsewhere, Date{1234.75}));
+    program->settings.removeDockBookmark(kAtlas);
+
+    for (const auto& [link, expected] :
+         std::vector<std::pair<std::string, MacPath>>{{elsewhere.string() + "/Contents", elsewhere},
+                                                      {"/Volumes/Gone/Atlas.app/Contents", atlas},
+                                                      {(wrapper / "Contents").string(), atlas},
+                                                      {"Contents", atlas}}) {
+        ASSERT_TRUE(mac.files.remove(wrapper / "Contents"));
+        ASSERT_TRUE(mac.files.createLink(wrapper / "Contents", link));
+        const dock::Tile tile = cleanedAtlas();
+        EXPECT_EQ(*mac.bookmarks.resolve(*tile.bookmark()), expected) << link;
+        EXPECT_EQ(*tile.url(), mac.bookmarks.fileURL(expected)) << link;
+        EXPECT_EQ(*tile.modified(), plist::Value(1234)) << link;
+    }
+}
+
+TEST_F(DockCleaningTest, PutsTheSavedBookmarkBackForAnOriginalThatIsGone) {
+    plist::Value untouched = volume.dockPreferences();
+    const Bytes saved = *dock::findTile(untouched, kAtlas).bookmark();
+    repoint();
+    ASSERT_TRUE(mac.files.remove(atlas));
+    EXPECT_EQ(*cleanedAtlas().bookmark(), saved);
+    EXPECT_EQ(*cleanedAtlas().url(), "file:///Applications/Atlas.app/");
+
+    program->settings.removeDockBookmark(kAtlas);
+    EXPECT_TRUE(isWrapperPath(*mac.bookmarks.resolve(*cleanedAtlas().bookmark())));
+    EXPECT_TRUE(log.has("  ⚠️ No original found for the Dock tile of " + wrapper.string()));
+}
+
+TEST_F(DockCleaningTest, ReturnsWhatItCannotReadAsItWas) {
+    for (const auto& [dock, line] : std::vector<std::pair<std::string, std::string>>{
+             {"", "⚠️ Could not parse dock plist, returning original"},
+             {"bplist00 cut", "⚠️ Could not parse dock plist, returning original"},
+             {"<plist><array/></plist>", "⚠️ Could not parse dock plist, returning original"},
+             {"<plist><dict/></plist>", "⚠️ No persistent-apps found, returning original"},
+             {"<plist><dict><key>persistent-apps</key><dict/></dict></plist>",
+              "⚠️ No persistent-apps found, returning original"},
+             {"<plist><dict><key>persistent-apps</key><array><string/></array></dict></plist>",
+              "  ℹ️ Dock plist is already clean"}}) {
+        log.clear();
+        EXPECT_EQ(textOf(clean(Bytes(dock.begin(), dock.end()))), dock);
+        EXPECT_EQ(log.lines(), std::vector{line});
+    }
+}
+
+} // namespace
+} // namespace tavrik::test
