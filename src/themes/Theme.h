@@ -20,7 +20,8 @@ struct Theme {
     bool operator==(const Theme&) const = default;
 };
 
-inline constexpr std::size_t kLongestThemeName = 50; ///< user-perceived characters
+inline constexpr std::size_t kLongestThemeName = 50;          ///< user-perceived characters
+inline constexpr std::size_t kLargestThemeRecord = 64u << 10; ///< bytes; what is larger is none of ours
 
 /// The name without the white space around it.
 std::string trimmedThemeName(std::string_view name);
@@ -35,8 +36,8 @@ bool isThemeID(std::string_view text);
 /// 16 characters, each drawn uniformly.
 std::string drawThemeID(Random& random);
 
-/// The record as a binary property list, and back. Reading refuses what is no record, an id that is none, and a
-/// name that is not valid.
+/// The record as a binary property list, and back. Reading takes XML too, trims the name, and refuses what is
+/// no record or too large for one, an id that is none, and a name that is not valid.
 Result<Bytes> encodeTheme(const Theme& theme);
 Result<Theme> decodeTheme(ByteView record);
 

@@ -5,9 +5,8 @@
 #include "platform/Result.h"
 #include "themes/Theme.h"
 
-#include <QImage>
-
 #include <map>
+#include <mutex>
 #include <optional>
 #include <set>
 #include <string>
@@ -15,6 +14,7 @@
 
 namespace tavrik {
 
+class FileManager;
 struct Mac;
 
 /// An icon of a theme: a file named by its application's bundle identifier.
@@ -30,14 +30,16 @@ struct ThemeIcon {
 /// safe; a folder that is a symbolic link is never read, written or removed through.
 ///
 /// Every change is one step on disk: a theme appears and goes whole, an icon is the old one or the new one. A
-/// kill leaves at worst a folder or file whose name begins with a full stop, which counts as nothing and which
-/// `removeLeftovers` removes. Blocks on the disk; any thread; two changes of one theme must take turns.
+/// kill leaves at worst a folder ".new-<id>" or ".deleted-<id>" or a file with ".new" at its end, which count
+/// as nothing and which `removeLeftovers` removes. A failure leaves the old state, unless the flush of a folder
+/// fails after its change: that one may stand then. Blocks on the disk; any thread; changes take turns.
 class ThemeLibrary {
 public:
     explicit ThemeLibrary(Mac& mac);
 
     const MacPath& path() const { return m_path; }
 
+    /// Only of ids: nothing is checked here.
     MacPath folderOf(const std::string& themeID) const { return m_path / themeID; }
 
     MacPath iconsOf(const std::string& themeID) const { return folderOf(themeID) / "Icons"; }
@@ -47,14 +49,16 @@ public:
     /// The themes whose record can be read, in byte order of their folders. Logs as it goes.
     std::vector<Theme> load() const;
 
-    /// Makes a theme with these icons: PNG content by bundle identifier. There whole, or not at all.
+    /// Makes a theme with these icons: PNG content by bundle identifier. There whole, or not at all. An id that
+    /// is in use is refused.
     Status create(const Theme& theme, const std::map<std::string, Bytes>& icons = {});
 
-    /// Replaces the record.
+    /// Replaces the record. An error when there is no such theme.
     Status update(const Theme& theme);
 
     /// By bundle identifier; of both formats the PNG.
     std::vector<ThemeIcon> icons(const std::string& themeID) const;
+
     /// The file to show for an application, the hidden ones passed over: the PNG, else the ICNS.
     std::optional<MacPath> iconFor(const std::string& themeID, const std::string& bundleID,
                                    const std::set<std::string>& hidden) const;
@@ -62,11 +66,13 @@ public:
     /// Writes "<bundle identifier>.png", complete and flushed; an earlier one is replaced.
     Status writeIcon(const std::string& themeID, const std::string& bundleID, ByteView png);
 
-    /// Gives an icon to another application. The extension stays. Refused when either name is no possible file
-    /// name or the new one is taken.
+    /// Gives an icon to another application. The extension stays. Refused in a sentence when there is no such
+    /// icon, the new name is no possible one, or the theme has an icon for that application, in either format.
     Status renameIcon(const std::string& themeID, const std::string& fileName, const std::string& newBundleID);
 
-    /// Both are fine when there is none. For the apply of staged deletions.
+    /// Both are fine when there is none; a name that cannot be one is refused. For the apply of staged
+    /// deletions. A theme is gone when its folder has another name; what cannot be removed of it then is a
+    /// leftover.
     Status removeIcon(const std::string& themeID, const std::string& fileName);
     Status remove(const std::string& themeID);
 
@@ -74,9 +80,17 @@ public:
     void removeLeftovers();
 
 private:
-    Mac& m_mac;
+    /// A theme's folder, or that of its icons, there or not, when no link stands in the way.
+    Result<MacPath> plainFolderOf(const std::string& themeID) const;
+    Result<MacPath> plainIconsOf(const std::string& themeID) const;
+    Result<Theme> read(const MacPath& record, const std::string& folderName) const;
+    Status fill(const MacPath& folder, const Theme& theme, const std::map<std::string, Bytes>& icons);
+    Status moveAway(const std::string& themeID);
+
+    FileManager& m_files;
     const MacPath m_supportFolder;
     const MacPath m_path;
+    std::mutex m_changing; ///< held while something is changed
 };
 
 /// The bundle identifier that an icon file is for; nothing when the name is none that a theme uses.
