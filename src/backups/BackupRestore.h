@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backups/BackupContents.h"
+#include "backups/SafetyCopies.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
@@ -26,15 +27,24 @@ public:
     /// `contents` has been checked. The error is that of the log line "❌ Failed to restore backup files: ".
     Status run(const BackupContents& contents);
 
-    MacPath dockSafetyCopy() const;
-    MacPath databaseSafetyCopy() const;
+    MacPath dockSafetyCopy() const { return m_safetyCopies.dockPlist(); }
+
+    MacPath databaseSafetyCopy() const { return m_safetyCopies.launchpadDatabase(); }
 
 private:
+    Status replaceFiles(const BackupContents& contents);
+    Status deleteDockPlist();
+    Status clearDatabaseFolder();
+    Status writeBack(const MacPath& file, const Bytes& content);
+    void clearWrapperFolder();
+    void clearSettings(const BackupContents& contents);
+
     Mac& m_mac;
     SettingsManager& m_settings;
-    DockManager& m_dock;
     PendingChangesManager& m_pendingChanges;
+    const MacPath m_dockPlist;
     const MacPath m_database;
+    SafetyCopies m_safetyCopies;
 };
 
 } // namespace tavrik

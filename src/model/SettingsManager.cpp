@@ -368,4 +368,20 @@ void SettingsManager::removeSwapRecord(const std::string& bundleID) {
     removeEntry(bundleID, kSwapRecords);
 }
 
+// All that speaks of the stores that a restore replaced
+
+bool SettingsManager::clearAfterRestore(const std::set<std::string>& dockBookmarksToKeep) {
+    const auto saved = m_store.change([&](plist::Dictionary& root) {
+        for (const char* key :
+             {kMappings, kSelectedIcons, kFontState, kUnfinishedFontChange, kSwapRecords, kHiddenFlagApps})
+            root.erase(key);
+        if (dictionaryAt(root, kDockBookmarks))
+            std::erase_if(ensureDictionaryAt(root, kDockBookmarks),
+                          [&](const auto& bookmark) { return !dockBookmarksToKeep.contains(bookmark.first); });
+        // Settings without any key are never written.
+        ensureDictionaryAt(root, kFolderBackups);
+    });
+    return saved == SettingsStore::Saved::yes;
+}
+
 } // namespace tavrik

@@ -7,6 +7,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -117,6 +118,11 @@ public:
     std::optional<SwapRecord> getSwapRecord(const std::string& bundleID);
     std::map<std::string, SwapRecord> getAllSwapRecords();
     void removeSwapRecord(const std::string& bundleID);
+
+    /// After a backup's files took the place of the live ones: forgets, in one write, every mapping, selected
+    /// icon and hidden-flag application, the style with its unfinished change, the records of swaps, and the
+    /// Dock bookmarks but those to be kept. Returns true when that is on disk.
+    [[nodiscard]] bool clearAfterRestore(const std::set<std::string>& dockBookmarksToKeep);
 
 private:
     template<typename Record>
