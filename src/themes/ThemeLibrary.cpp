@@ -1,12 +1,12 @@
 #include "themes/ThemeLibrary.h"
 
-#include "icons/PlainFolders.h"
 #include "model/SettingsManager.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
 #include "platform/PathComponent.h"
+#include "platform/PlainFolders.h"
 #include "themes/ThemeError.h"
 
 #include <array>
