@@ -1,1 +1,140 @@
 #include "themes/ThemeExchange.h"
+
+#include "model/SettingsManager.h"
+#include "platform/FileManager.h"
+#include "platform/Log.h"
+#include "platform/Mac.h"
+#include "platform/PlainFolders.h"
+#include "themes/OnAllCores.h"
+#include "themes/ThemeError.h"
+#include "themes/ThemeFile.h"
+#include "themes/ThemeFileParts.h"
+#include "themes/ThemeIconCheck.h"
+#include "themes/ThemeManager.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <cerrno>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace tavrik {
+
+namespace {
+
+std::string withoutLastCharacter(const std::string& text) {
+    const QString units = QString::fromStdString(text);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, units);
+    finder.toEnd();
+    finder.toPreviousBoundary();
+    return units.left(std::max<qsizetype>(finder.position(), 0)).toStdString();
+}
+
+/// The name, or the first of "<name> 2", "<name> 3" ... that no theme has; shortened where it gets too long.
+std::string freeName(const std::string& name, const std::set<std::string>& taken) {
+    std::string candidate = name;
+    for (unsigned number = 2; taken.contains(candidate); ++number) {
+        const std::string ending = " " + std::to_string(number);
+        std::string beginning = name;
+        while (!isValidThemeName(beginning + ending))
+            beginning = trimmedThemeName(withoutLastCharacter(beginning));
+        candidate = beginning + ending;
+    }
+    return candidate;
+}
+
+/// Anything there counts, a dangling link too; what cannot be looked at does not, and is left to the creation.
+bool isTaken(const FileManager& files, const MacPath& folder) {
+    return bool(files.attributes(folder, Links::dontFollow));
+}
+
+/// A file among a theme's icons.
+struct Candidate {
+    Bytes content;
+    std::string flaw; ///< why it is no icon for a theme file, in a sentence; empty when it is one
+};
+
+/// An error only when the disk fails: what is no icon is a candidate with a flaw.
+Result<Candidate> readCandidate(const FileManager& files, const MacPath& file) {
+    const std::string name = file.name();
+    const auto present = files.attributes(file, Links::dontFollow);
+    if (!present)
+        return present.error();
+    if (present->type != FileType::file || !isPortableIconName(name))
+        return Candidate{.content = {}, .flaw = quotedName(name) + " is no icon"};
+    if (present->size > kLargestThemeIcon)
+        return Candidate{.content = {}, .flaw = quotedName(name) + " is too large"};
+    auto content = files.read(file, kLargestThemeIcon);
+    if (!content)
+        return content.error();
+    const Status checked = checkThemeIcon(name, *content);
+    if (!checked)
+        return Candidate{.content = {}, .flaw = checked.error().description};
+    return Candidate{.content = std::move(*content), .flaw = {}};
+}
+
+} // namespace
+
+ThemeExchange::ThemeExchange(Mac& mac, ThemeManager& themes) : m_mac(mac), m_themes(themes) {}
+
+Result<Bytes> ThemeExchange::exportTheme(const Theme& theme) const {
+    const MacPath folder = m_themes.library().iconsOf(theme.themeID);
+    if (!isThemeID(theme.themeID) || !m_mac.files.exists(folder.parent()))
+        return errorOf(ThemeError::missingRequiredFiles, "“" + theme.name + "” is not in the library");
+    const Status plain = checkPlainFolders(m_mac.files, supportFolder(m_mac.volume), folder);
+    if (!plain)
+        return plain.error();
+    auto names = m_mac.files.list(folder);
+    if (!names && names.error().code != ENOENT)
+        return names.error();
+    if (!names)
+        names = std::vector<std::string>();
+
+    std::vector<Candidate> candidates(names->size());
+    const Status read = onAllCores(names->size(), [&](std::size_t place) -> Status {
+        auto candidate = readCandidate(m_mac.files, folder / (*names)[place]);
+        if (!candidate)
+            return candidate.error();
+        candidates[place] = std::move(*candidate);
+        return Done{};
+    });
+    if (!read)
+        return read.error();
+
+    ThemePackage package{.theme = theme, .icons = {}};
+    std::set<std::string> keys;
+    for (std::size_t place = 0; place < names->size(); ++place) {
+        const std::string& name = (*names)[place];
+        Candidate& candidate = candidates[place];
+        if (candidate.flaw.empty() && !keys.insert(fileNameKey(name)).second)
+            candidate.flaw = quotedName(name) + " differs from another one by case or accents alone";
+        if (candidate.flaw.empty())
+            package.icons.emplace(name, std::move(candidate.content));
+        else
+            log("Left out of the theme file of " + theme.name + ": " + candidate.flaw);
+    }
+    return writeThemeFile(package);
+}
+
+Result<Theme> ThemeExchange::importTheme(ByteView file, const std::string& fileName) {
+    const auto package = readThemeFile(file, fileName);
+    if (!package)
+        return package.error();
+    ThemeLibrary& library = m_themes.library();
+    std::set<std::string> names;
+    for (const Theme& installed : library.load())
+        names.insert(installed.name);
+    Theme theme = package->theme;
+    theme.name = freeName(theme.name, names);
+    while (isTaken(m_mac.files, library.folderOf(theme.themeID)))
+        theme.themeID = drawThemeID(m_mac.random);
+    if (const Status created = library.create(theme, package->icons); !created)
+        return Error{errorOf(ThemeError::installationFailed, created.error().description).description,
+                     created.error().code};
+    m_themes.loadThemes();
+    return theme;
+}
+
+} // namespace tavrik

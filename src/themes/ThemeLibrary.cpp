@@ -220,11 +220,10 @@ Status ThemeLibrary::fill(const MacPath& folder, const Theme& theme,
     const MacPath iconFolder = folder / "Icons";
     if (Status made = m_files.createFolder(iconFolder); !made)
         return made;
-    for (const auto& [bundleID, content] : icons) {
-        const auto name = iconName(bundleID, kPng);
-        if (!name)
-            return name.error();
-        if (Status created = createFlushed(m_files, iconFolder / *name, content); !created)
+    for (const auto& [fileName, content] : icons) {
+        if (!bundleIDOfIcon(fileName))
+            return Error{"“" + fileName + "” cannot name an icon", EINVAL};
+        if (Status created = createFlushed(m_files, iconFolder / fileName, content); !created)
             return created;
     }
     if (Status created = createFlushed(m_files, folder / kRecord, *record); !created)

@@ -49,7 +49,7 @@ public:
     /// The themes whose record can be read, in byte order of their folders. Logs as it goes.
     std::vector<Theme> load() const;
 
-    /// Makes a theme with these icons: PNG content by bundle identifier. There whole, or not at all. An id that
+    /// Makes a theme with these icons: PNG or ICNS content by file name. There whole, or not at all. An id that
     /// is in use is refused.
     Status create(const Theme& theme, const std::map<std::string, Bytes>& icons = {});
 

@@ -72,7 +72,8 @@ struct Change {
 const std::vector<Change> kChanges{
     {"create",
      [](ThemeLibrary& library) {
-         return library.create({"1111111111111111", "New", {}}, {{kAtlas, bytes("1")}, {"b", bytes("2")}});
+         return library.create({"1111111111111111", "New", {}},
+                               {{kAtlas + ".png", bytes("1")}, {"b.icns", bytes("2")}});
      }},
     {"update", [](ThemeLibrary& library) { return library.update({kOcean.themeID, "Sea", {}}); }},
     {"write",
@@ -226,7 +227,7 @@ TEST_F(ThemeLibraryTest, RefusesEveryNameThatLeadsElsewhere) {
     for (const std::string& name : {std::string(), std::string("."), std::string("a/b"), std::string("../b"),
                                     std::string("-b"), std::string("b\n"), std::string("b\0c", 3)}) {
         SCOPED_TRACE(name);
-        EXPECT_FALSE(library.create(fresh, {{name, {}}}));
+        EXPECT_FALSE(library.create(fresh, {{name + ".png", {}}}));
         EXPECT_FALSE(library.writeIcon(kOcean.themeID, name, bytesOf("x")));
         EXPECT_FALSE(library.renameIcon(kOcean.themeID, kAtlas + ".png", name));
         EXPECT_FALSE(library.removeIcon(kOcean.themeID, name + ".png"));
