@@ -2,6 +2,7 @@
 
 #include "fonts/DockTitles.h"
 #include "fonts/LaunchpadTitles.h"
+#include "fonts/ShownStyles.h"
 #include "model/SettingsManager.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
@@ -38,7 +39,7 @@ void FontManager::applyFont(const std::string& fontName) {
     }
     log("\n=== APPLYING FONT: " + fontName + " ===");
     const FontState style{fontName, m_fontReplacer.isMultiCaseFont(fontName), {}};
-    const auto shown = shownStyles();
+    const auto shown = shownStyles(m_settings, m_fontReplacer);
     if (!begin(style))
         return;
 
@@ -58,7 +59,7 @@ void FontManager::applyFont(const std::string& fontName) {
 void FontManager::resetAllFonts() {
     assertOffMainThread("The reset of styled fonts");
     log("\n=== RESETTING ALL FONTS ===");
-    const auto shown = shownStyles();
+    const auto shown = shownStyles(m_settings, m_fontReplacer);
     if (!begin(std::nullopt))
         return;
 
@@ -80,17 +81,6 @@ bool FontManager::begin(const TitleStyle& style) {
     // A later change would take the titles for what they are not, and with that lose the capitals of folders.
     log("ERROR: The style cannot be recorded, so the titles stay as they are");
     return false;
-}
-
-/// The styles that the folders' titles may show now, the oldest first: the recorded one, which is the only one
-/// unless an earlier change did not end.
-std::vector<TitleStyle> FontManager::shownStyles() const {
-    std::vector<TitleStyle> styles;
-    for (const std::string& name : m_settings.getUnfinishedFontChange())
-        styles.push_back(name.empty() ? TitleStyle()
-                                      : FontState{name, m_fontReplacer.isMultiCaseFont(name), {}});
-    styles.push_back(m_settings.getCurrentFontState());
-    return styles;
 }
 
 void FontManager::changeLaunchpad(const std::function<void(LaunchpadTitles&)>& change) {

@@ -36,7 +36,6 @@ public:
 
 private:
     [[nodiscard]] bool begin(const TitleStyle& style);
-    std::vector<TitleStyle> shownStyles() const;
     void changeLaunchpad(const std::function<void(LaunchpadTitles&)>& change);
 
     const FontReplacer m_fontReplacer;

@@ -17,22 +17,6 @@ QString folded(std::string_view name) {
     return text.normalized(QString::NormalizationForm_C).toLower();
 }
 
-/// Whether the label is written in a style that gives a capital and its small letter one shape.
-bool hasLostCapitals(const std::string& label, const std::string& plain, const FontReplacer& replacer) {
-    if (label == plain)
-        return false;
-    std::string lowered = plain;
-    std::string raised = plain;
-    // Styles know the letters of ASCII only.
-    for (char& letter : lowered)
-        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    for (char& letter : raised)
-        letter = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-    return std::ranges::any_of(replacer.allFontMaps(), [&](const FontReplacer::FontMap& font) {
-        return replacer.convert(lowered, font.name) == label && replacer.convert(raised, font.name) == label;
-    });
-}
-
 } // namespace
 
 std::string bundleName(const MacPath& bundle) {
@@ -44,10 +28,26 @@ std::string plainLabel(const std::string& label, const std::string& url, const F
     if (isWrapperPath(bundle) && !bundle.stem().empty())
         return bundle.stem();
     std::string plain = replacer.convertToNormal(label);
-    if (!hasLostCapitals(label, plain, replacer))
+    if (label == plain || !hasLostCapitals(label, plain, replacer))
         return plain;
     std::string fileName = bundleName(bundle);
     return isSameIgnoringCase(fileName, plain) ? fileName : plain;
+}
+
+bool hasLostCapitals(std::string_view title, std::string_view plain, const FontReplacer& replacer) {
+    // Styles know the letters of ASCII only, and where one writes both cases alike, plain text has the small
+    // one.
+    const auto isCapital = [](char letter) { return letter >= 'A' && letter <= 'Z'; };
+    if (std::ranges::any_of(plain, isCapital))
+        return false;
+    std::string raised(plain);
+    for (char& letter : raised)
+        letter = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    return raised != plain &&
+           std::ranges::any_of(replacer.allFontMaps(), [&](const FontReplacer::FontMap& font) {
+               return replacer.convert(raised, font.name) == title &&
+                      replacer.convert(plain, font.name) == title;
+           });
 }
 
 bool isSameIgnoringCase(std::string_view one, std::string_view other) {

@@ -17,6 +17,10 @@ std::string bundleName(const MacPath& bundle);
 /// are gone: they are taken from the bundle's file name if that is the same name.
 std::string plainLabel(const std::string& label, const std::string& url, const FontReplacer& replacer);
 
+/// Whether the title is written in a style that gives a capital and its small letter one shape, so that
+/// `plain`, which is the title in plain text, cannot tell them apart.
+bool hasLostCapitals(std::string_view title, std::string_view plain, const FontReplacer& replacer);
+
 /// Whether two names differ in nothing but the case of their letters.
 bool isSameIgnoringCase(std::string_view one, std::string_view other);
 

@@ -75,6 +75,10 @@ void Connection::setBusyTimeout(int milliseconds) {
     sqlite3_busy_timeout(m_handle, milliseconds);
 }
 
+bool Connection::disableTriggers() {
+    return sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr) == SQLITE_OK;
+}
+
 std::int64_t Connection::lastInsertedRow() const {
     return sqlite3_last_insert_rowid(m_handle);
 }

@@ -20,6 +20,9 @@ enum class OpenMode {
     readOnly,
 };
 
+/// SQLite's code for a file that cannot be opened.
+inline constexpr int kCannotOpen = 14;
+
 enum class Step { row, done, failed };
 
 class Statement;
@@ -45,6 +48,9 @@ public:
     bool inTransaction() const;
 
     void setBusyTimeout(int milliseconds);
+
+    /// From now on what this connection changes fires none of the database's triggers, which stay in it.
+    [[nodiscard]] bool disableTriggers();
 
     std::int64_t lastInsertedRow() const;
 

@@ -14,6 +14,7 @@
 #include "system/IconManager.h"
 #include "system/PlacementSwap.h"
 #include "system/TitleOrder.h"
+#include "system/Trimmed.h"
 
 #include <QString>
 
@@ -49,14 +50,6 @@ std::optional<sqlite::Connection> openDatabase(const Volume& volume, const MacPa
     assertOffMainThread("opening the Launchpad database");
     const HostPath file = volume.hostPath(path);
     return file.empty() ? std::nullopt : sqlite::Connection::open(file, mode);
-}
-
-/// Without white space and line breaks at both ends.
-std::string trimmed(const std::string& text) {
-    const auto isPlain = [](char c) { return c > ' ' && c < 0x7f; };
-    if (!text.empty() && isPlain(text.front()) && isPlain(text.back()))
-        return text;
-    return QString::fromStdString(text).trimmed().toStdString();
 }
 
 } // namespace

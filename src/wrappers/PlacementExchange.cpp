@@ -23,17 +23,6 @@ std::optional<ItemPlacement> placementIn(const std::vector<DatabaseAppEntry>& en
 
 } // namespace
 
-/// Whether rows that are `now` here stand where they stood `then`. The system renumbers the items of a page at
-/// will, so rows that belong to two pages are known by the page alone.
-bool PlacementExchange::isSame(const Places& now, const Places& then) {
-    const bool samePages =
-        now.original.parentID == then.original.parentID && now.wrapper.parentID == then.wrapper.parentID;
-    if (then.original.parentID != then.wrapper.parentID)
-        return samePages;
-    return samePages && now.original.ordering == then.original.ordering &&
-           now.wrapper.ordering == then.wrapper.ordering;
-}
-
 PlacementExchange::PlacementExchange(SettingsManager& settings, DatabaseManager& database)
     : m_settings(settings),
       m_database(database) {}
@@ -87,14 +76,14 @@ bool PlacementExchange::canTell() const {
     return missing && missing->empty();
 }
 
-std::optional<PlacementExchange::Places> PlacementExchange::placesOf(const std::string& bundleID,
-                                                                     RowID original, RowID wrapper) const {
+std::optional<RowsPlacement> PlacementExchange::placesOf(const std::string& bundleID, RowID original,
+                                                         RowID wrapper) const {
     const auto entries = m_database.appEntries(bundleID);
     const auto originalNow = placementIn(entries, original);
     const auto wrapperNow = placementIn(entries, wrapper);
     if (!originalNow || !wrapperNow)
         return std::nullopt;
-    return Places{*originalNow, *wrapperNow};
+    return RowsPlacement{*originalNow, *wrapperNow};
 }
 
 PlacementExchange::State PlacementExchange::stateOf(const std::string& bundleID,
@@ -102,10 +91,14 @@ PlacementExchange::State PlacementExchange::stateOf(const std::string& bundleID,
     const auto now = placesOf(bundleID, record.originalRowID, record.tavrikRowID);
     if (!now)
         return canTell() ? State::gone : State::unreadable;
-    if (isSame(*now, {record.original, record.tavrik}))
+    switch (tavrik::stateOf(*now, record)) {
+    case RowsState::home:
         return State::home;
-    if (isSame(*now, {record.tavrik, record.original}))
+    case RowsState::exchanged:
         return State::exchanged;
+    case RowsState::elsewhere:
+        return State::elsewhere;
+    }
     return State::elsewhere;
 }
 

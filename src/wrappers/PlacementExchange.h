@@ -2,6 +2,7 @@
 
 #include "model/RowID.h"
 #include "model/SettingsRecords.h"
+#include "system/RowsPlacement.h"
 
 #include <optional>
 #include <string>
@@ -41,11 +42,6 @@ public:
     void finish(const std::string& bundleID);
 
 private:
-    struct Places {
-        ItemPlacement original;
-        ItemPlacement wrapper;
-    };
-
     enum class State {
         home,       ///< each in its own place
         exchanged,  ///< each in the other's place
@@ -55,8 +51,7 @@ private:
     };
 
     bool canTell() const;
-    static bool isSame(const Places& now, const Places& then);
-    std::optional<Places> placesOf(const std::string& bundleID, RowID original, RowID wrapper) const;
+    std::optional<RowsPlacement> placesOf(const std::string& bundleID, RowID original, RowID wrapper) const;
     State stateOf(const std::string& bundleID, const SwapRecord& record) const;
     bool bring(const std::string& bundleID, RowID original, RowID wrapper, State target);
 
