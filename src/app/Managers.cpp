@@ -18,6 +18,8 @@ Managers::Managers(Mac& mac)
       hiddenThemeIcons(mac.defaults),
       iconTransfer(mac.files, settings, iconStore),
       apps(launchpadDatabase, settings, wrappers, iconStore, iconCache),
-      pendingChanges(mac, settings, fonts.fontReplacer(), iconStore, iconTransfer, notificationCenter) {}
+      pendingChanges(mac, settings, fonts.fontReplacer(), iconStore, iconTransfer, notificationCenter),
+      backups(mac, settings, launchpadDatabase, dock, pendingChanges, fonts.fontReplacer(),
+              notificationCenter) {}
 
 } // namespace tavrik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backups/BackupManager.h"
 #include "changes/PendingChangesManager.h"
 #include "fonts/FontManager.h"
 #include "icons/HiddenThemeIcons.h"
@@ -40,6 +41,7 @@ struct Managers {
     IconTransfer iconTransfer;
     AppManager apps;
     PendingChangesManager pendingChanges;
+    BackupManager backups;
 };
 
 } // namespace tavrik

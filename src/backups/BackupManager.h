@@ -7,6 +7,7 @@
 #include "backups/BackupRestore.h"
 #include "backups/DockCleaning.h"
 #include "backups/LaunchpadCleaning.h"
+#include "backups/LiveStores.h"
 #include "platform/Bytes.h"
 #include "platform/Date.h"
 #include "platform/Path.h"
@@ -17,6 +18,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace tavrik {
@@ -57,9 +59,9 @@ public:
 
     const MacPath& backupsBaseURL() const { return m_folder.path(); }
 
-    /// Takes a snapshot now, opens it again and compares, and rotates. The new file; an error when there is
-    /// none or when it does not hold what was sealed. A store that is missing, empty or damaged is an error: a
-    /// backup that could not be restored is none. `spared` outlives the rotation.
+    /// Takes a snapshot now, opens it again and compares, and rotates; the new one is spared too. The new file;
+    /// an error when there is none or when it does not hold what was sealed. A store that is missing, empty or
+    /// damaged is an error: a backup that could not be restored is none. `spared` outlives the rotation.
     Result<MacPath> createBackup(const std::set<MacPath>& spared = {});
 
     /// The oldest first.
@@ -87,10 +89,18 @@ public:
 
     std::optional<BackupKey> deriveBackupKey() const;
 
-    /// Removes plain copies that a killed snapshot left. To be called at the start of a program that may write.
-    void removeLeftovers() { m_launchpadCleaning.removeLeftovers(); }
+    /// Removes plain copies and unfinished files that a killed snapshot left. To be called at the start of a
+    /// program that may write.
+    void removeLeftovers();
 
 private:
+    std::variant<BackupContents, LiveStoresFault> readLive() const;
+    Result<MacPath> keep(BackupContents contents, std::set<MacPath> spared);
+    std::optional<Bytes> seal(const BackupContents& contents) const;
+    Result<MacPath> write(const BackupContents& contents);
+    bool holds(const MacPath& backup, const BackupContents& contents) const;
+    Status keepPresentState(const MacPath& restored);
+
     Mac& m_mac;
     SettingsManager& m_settings;
     DatabaseManager& m_database;
