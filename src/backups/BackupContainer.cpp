@@ -22,7 +22,6 @@ namespace tavrik {
 namespace {
 
 using Nonce = std::array<std::uint8_t, BackupContainer::kNonceSize>;
-using Tag = std::array<std::uint8_t, BackupContainer::kTagSize>;
 
 constexpr std::size_t kShift = BackupContainer::kNonceSize; ///< by which the text lies further back once sealed
 constexpr std::size_t kChunk = 16u << 10; ///< bytes that stay in the processor's nearest cache
@@ -67,41 +66,43 @@ private:
     };
 
     bool control(int command, std::uint8_t* tag) {
-        return EVP_CIPHER_CTX_ctrl(m_context.get(), command, std::tuple_size_v<Tag>, tag) == 1;
+        return EVP_CIPHER_CTX_ctrl(m_context.get(), command, BackupContainer::kTagSize, tag) == 1;
     }
 
     std::unique_ptr<EVP_CIPHER_CTX, FreeContext> m_context{EVP_CIPHER_CTX_new()};
 };
 
-/// Encrypts the `size` bytes at `text` while they move back by `kShift`, chunk by chunk, so that the memory is
-/// walked once. The beginning of the next chunk, which a moved one would cover, is carried along.
-bool encryptShifted(Cipher& cipher, std::uint8_t* text, std::size_t size) {
-    std::array<std::uint8_t, kShift> carried{};
-    std::array<std::uint8_t, kShift> ahead{};
-    std::memcpy(carried.data(), text, std::min(size, kShift));
-    for (std::size_t done = 0; done < size; done += kChunk) {
+/// Encrypts the first `size` bytes of the container and puts the nonce before them, chunk by chunk, so that
+/// the memory is walked once. Each chunk is encrypted where it lies and then moved; the end of it, for which
+/// there is no room before the next is encrypted, is held back until then, as the nonce is at first.
+bool encryptBehindNonce(Cipher& cipher, Bytes& container, std::size_t size, const Nonce& nonce) {
+    Nonce heldBack = nonce;
+    std::size_t done = 0;
+    do {
+        std::uint8_t* chunk = container.data() + done;
         const std::size_t count = std::min(kChunk, size - done);
-        std::uint8_t* from = text + done;
-        if (size - done > count)
-            std::memcpy(ahead.data(), from + count, std::min(size - done - count, kShift));
-        if (count > kShift)
-            std::memmove(from + 2 * kShift, from + kShift, count - kShift);
-        std::memcpy(from + kShift, carried.data(), std::min(count, kShift));
-        if (!cipher.process(from + kShift, count))
+        if (!cipher.process(chunk, count))
             return false;
-        carried = ahead;
-    }
+        done += count;
+        const std::size_t moved = done < size ? count - kShift : count;
+        Nonce next{};
+        if (moved < count)
+            std::memcpy(next.data(), chunk + moved, kShift);
+        std::memmove(chunk + kShift, chunk, moved);
+        std::memcpy(chunk, heldBack.data(), kShift);
+        heldBack = next;
+    } while (done < size);
     return true;
 }
 
-/// The reverse.
-bool decryptShifted(Cipher& cipher, std::uint8_t* text, std::size_t size) {
+/// Decrypts the `size` bytes behind the nonce and moves them to its place.
+bool decryptBehindNonce(Cipher& cipher, Bytes& container, std::size_t size) {
     for (std::size_t done = 0; done < size; done += kChunk) {
+        std::uint8_t* chunk = container.data() + done;
         const std::size_t count = std::min(kChunk, size - done);
-        std::uint8_t* to = text + done;
-        if (!cipher.process(to + kShift, count))
+        if (!cipher.process(chunk + kShift, count))
             return false;
-        std::memmove(to, to + kShift, count);
+        std::memmove(chunk, chunk + kShift, count);
     }
     return true;
 }
@@ -122,14 +123,14 @@ std::optional<Bytes> BackupContainer::seal(Bytes archive) const {
     archive.reserve(size + kOverhead); // exactly: growing by itself might double it
     archive.resize(size + kOverhead);
 
-    const Bytes nonce = m_random.bytes(kNonceSize);
+    Nonce nonce{};
+    std::ranges::copy_n(m_random.bytes(kNonceSize).begin(), kNonceSize, nonce.begin());
     Cipher cipher;
     if (!cipher.begin(Cipher::Direction::seal, *key, nonce.data()) ||
-        !encryptShifted(cipher, archive.data(), size) || !cipher.finish()) {
+        !encryptBehindNonce(cipher, archive, size, nonce) || !cipher.finish()) {
         log("Encryption failed: " + reason());
         return std::nullopt;
     }
-    std::ranges::copy(nonce, archive.begin());
     if (!cipher.takeTag(archive.data() + kNonceSize + size)) {
         log("Failed to combine sealed box");
         return std::nullopt;
@@ -154,7 +155,7 @@ std::optional<Bytes> BackupContainer::open(Bytes container) const {
         log("Failed to decrypt backup: " + reason());
         return std::nullopt;
     }
-    if (!decryptShifted(cipher, container.data(), size) || !cipher.finish()) {
+    if (!decryptBehindNonce(cipher, container, size) || !cipher.finish()) {
         OPENSSL_cleanse(container.data(), container.size());
         ERR_clear_error();
         log("Failed to decrypt backup: it is damaged, or was made on another Mac");
