@@ -19,6 +19,7 @@ Managers::Managers(Mac& mac)
       iconTransfer(mac.files, settings, iconStore),
       apps(launchpadDatabase, settings, wrappers, iconStore, iconCache),
       pendingChanges(mac, settings, fonts.fontReplacer(), iconStore, iconTransfer, notificationCenter),
+      themes(mac, settings, apps, iconStore, hiddenThemeIcons, pendingChanges, notificationCenter),
       backups(mac, settings, launchpadDatabase, dock, pendingChanges, fonts.fontReplacer(),
               notificationCenter) {}
 

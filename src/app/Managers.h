@@ -15,6 +15,7 @@
 #include "system/DockManager.h"
 #include "system/IconManager.h"
 #include "system/LaunchpadManager.h"
+#include "themes/ThemeManager.h"
 #include "wrappers/IconSettingsManager.h"
 #include "wrappers/TavrikAppManager.h"
 
@@ -41,6 +42,7 @@ struct Managers {
     IconTransfer iconTransfer;
     AppManager apps;
     PendingChangesManager pendingChanges;
+    ThemeManager themes;
     BackupManager backups;
 };
 

@@ -236,6 +236,17 @@ void PendingChangesManager::deleteThemeIcon(const std::string& themeID, const st
     updatePendingChangesState();
 }
 
+void PendingChangesManager::keepThemeIcon(const std::string& themeID, const std::string& iconFileName) {
+    assertOnMainThread("Taking back the deletion of a theme icon");
+    const auto deletions = m_staged.pendingThemeIconDeletions.find(themeID);
+    if (deletions == m_staged.pendingThemeIconDeletions.end() ||
+        std::erase(deletions->second, iconFileName) == 0)
+        return;
+    if (deletions->second.empty())
+        m_staged.pendingThemeIconDeletions.erase(deletions);
+    updatePendingChangesState();
+}
+
 void PendingChangesManager::deleteTheme(const std::string& themeID) {
     assertOnMainThread("Deleting a theme");
     if (!areSafe({themeID}))

@@ -93,6 +93,8 @@ public:
     /// Takes a staged hide back.
     void unhideThemeIcon(const std::string& themeID, const std::string& iconFileName);
     void deleteThemeIcon(const std::string& themeID, const std::string& iconFileName);
+    /// Takes a staged deletion back; nothing happens when there is none.
+    void keepThemeIcon(const std::string& themeID, const std::string& iconFileName);
     void deleteTheme(const std::string& themeID);
 
     /// A font and a reset exclude each other: staging one takes the other back. Nothing takes the font back. A

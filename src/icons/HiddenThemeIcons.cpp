@@ -54,6 +54,10 @@ bool HiddenThemeIcons::unhide(const std::string& themeID, const std::string& ico
     return std::erase(list, plist::Value(iconFileName)) == 0 || save(m_defaults, themeID, std::move(list));
 }
 
+bool HiddenThemeIcons::forget(const std::string& themeID) {
+    return !m_defaults.value(keyOf(themeID)) || save(m_defaults, themeID, {});
+}
+
 bool HiddenThemeIcons::isOffered(const std::string& themeID, const std::string& bundleID) const {
     return !hidden(themeID).contains(bundleID + ".png");
 }

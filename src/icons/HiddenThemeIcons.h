@@ -19,6 +19,9 @@ public:
     bool hide(const std::string& themeID, const std::string& iconFileName);
     bool unhide(const std::string& themeID, const std::string& iconFileName);
 
+    /// For a theme that is gone.
+    bool forget(const std::string& themeID);
+
     /// Whether a theme's icon is offered for an application.
     bool isOffered(const std::string& themeID, const std::string& bundleID) const;
 

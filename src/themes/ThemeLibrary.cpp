@@ -5,11 +5,9 @@
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
-#include "platform/PathComponent.h"
 #include "platform/PlainFolders.h"
 #include "themes/ThemeError.h"
 
-#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -18,8 +16,6 @@ namespace tavrik {
 namespace {
 
 constexpr std::string_view kRecord = "Info.plist";
-constexpr std::string_view kPng = ".png";
-constexpr std::array kExtensions{kPng, std::string_view(".icns")}; ///< the preferred one first
 
 /// Before the id, in the names of folders that are being made or removed.
 constexpr std::string_view kUnfinished = ".new-";
@@ -44,17 +40,6 @@ Status createFlushed(FileManager& files, const MacPath& file, ByteView content) 
     return created ? files.flush(file) : created;
 }
 
-Result<std::string> iconName(const std::string& bundleID, std::string_view extension) {
-    std::string name = bundleID + std::string(extension);
-    if (bundleIDOfIcon(name) != bundleID)
-        return Error{"“" + bundleID + "” cannot name an icon", EINVAL};
-    return name;
-}
-
-std::string_view extensionOf(const std::string& iconName) {
-    return iconName.ends_with(kPng) ? kExtensions.front() : kExtensions.back();
-}
-
 /// What killed writes left in a folder of files whose names `isOurs` knows.
 template<typename Known>
 void removeUnwritten(FileManager& files, const MacPath& folder, Known&& isOurs) {
@@ -67,16 +52,6 @@ void removeUnwritten(FileManager& files, const MacPath& folder, Known&& isOurs) 
 }
 
 } // namespace
-
-std::optional<std::string> bundleIDOfIcon(const std::string& fileName) {
-    if (!isSafePathComponent(fileName) || fileName.starts_with('.'))
-        return std::nullopt;
-    for (const std::string_view extension : kExtensions) {
-        if (fileName.ends_with(extension))
-            return fileName.substr(0, fileName.size() - extension.size());
-    }
-    return std::nullopt;
-}
 
 ThemeLibrary::ThemeLibrary(Mac& mac)
     : m_files(mac.files),
@@ -144,43 +119,6 @@ Result<Theme> ThemeLibrary::read(const MacPath& record, const std::string& folde
     if (theme && theme->themeID != folderName)
         return errorOf(ThemeError::invalidThemeFormat, "its record is that of " + theme->themeID);
     return theme;
-}
-
-std::vector<ThemeIcon> ThemeLibrary::icons(const std::string& themeID) const {
-    const auto folder = plainIconsOf(themeID);
-    const auto names = folder ? m_files.list(*folder) : folder.error();
-    std::map<std::string, MacPath> found;
-    for (const std::string& name : names ? *names : std::vector<std::string>()) {
-        const auto bundleID = bundleIDOfIcon(name);
-        const MacPath file = *folder / name;
-        if (!bundleID || !isOfType(m_files, file, FileType::file))
-            continue;
-        if (name.ends_with(kPng))
-            found.insert_or_assign(*bundleID, file);
-        else
-            found.emplace(*bundleID, file);
-    }
-    std::vector<ThemeIcon> icons;
-    icons.reserve(found.size());
-    for (auto& [bundleID, file] : found)
-        icons.push_back({bundleID, std::move(file)});
-    return icons;
-}
-
-std::optional<MacPath> ThemeLibrary::iconFor(const std::string& themeID, const std::string& bundleID,
-                                             const std::set<std::string>& hidden) const {
-    const auto folder = plainIconsOf(themeID);
-    if (!folder)
-        return std::nullopt;
-    for (const std::string_view extension : kExtensions) {
-        const auto name = iconName(bundleID, extension);
-        if (!name || hidden.contains(*name))
-            continue;
-        MacPath file = *folder / *name;
-        if (isOfType(m_files, file, FileType::file))
-            return file;
-    }
-    return std::nullopt;
 }
 
 // Themes
@@ -259,68 +197,6 @@ Status ThemeLibrary::moveAway(const std::string& themeID) {
         return flushed;
     ignoreFailure(m_files.remove(gone)); // the theme is gone already
     return Done{};
-}
-
-// Icons
-
-Status ThemeLibrary::writeIcon(const std::string& themeID, const std::string& bundleID, ByteView png) {
-    const std::lock_guard lock(m_changing);
-    const auto folder = plainIconsOf(themeID);
-    if (!folder)
-        return folder.error();
-    const auto name = iconName(bundleID, kPng);
-    if (!name)
-        return name.error();
-    // A theme that is gone does not come back as a folder without a record.
-    if (const auto present = m_files.attributes(folder->parent(), Links::dontFollow); !present)
-        return present.error();
-    if (Status made = createPlainFolder(m_files, m_supportFolder, *folder); !made)
-        return made;
-    return writeAtomically(m_files, *folder / *name, png);
-}
-
-Status ThemeLibrary::renameIcon(const std::string& themeID, const std::string& fileName,
-                                const std::string& newBundleID) {
-    const std::lock_guard lock(m_changing);
-    const auto folder = plainIconsOf(themeID);
-    if (!folder)
-        return folder.error();
-    const auto bundleID = bundleIDOfIcon(fileName);
-    if (!bundleID || !isOfType(m_files, *folder / fileName, FileType::file))
-        return Error{"The theme has no icon “" + fileName + "”", ENOENT};
-    const auto newName = iconName(newBundleID, extensionOf(fileName));
-    if (!newName)
-        return newName.error();
-    if (newBundleID == *bundleID)
-        return Done{};
-    // Of two formats one would hide the other.
-    for (const std::string_view extension : kExtensions) {
-        const auto taken =
-            m_files.attributes(*folder / (newBundleID + std::string(extension)), Links::dontFollow);
-        if (taken)
-            return Error{"The theme has an icon for “" + newBundleID + "” already", EEXIST};
-        if (taken.error().code != ENOENT)
-            return taken.error();
-    }
-    const Status moved = m_files.move(*folder / fileName, *folder / *newName);
-    return moved ? m_files.flush(*folder) : moved;
-}
-
-Status ThemeLibrary::removeIcon(const std::string& themeID, const std::string& fileName) {
-    const std::lock_guard lock(m_changing);
-    const auto folder = plainIconsOf(themeID);
-    if (!folder)
-        return folder.error();
-    if (!bundleIDOfIcon(fileName))
-        return Error{"“" + fileName + "” is no icon of a theme", EINVAL};
-    const MacPath file = *folder / fileName;
-    const auto present = m_files.attributes(file, Links::dontFollow);
-    if (!present)
-        return present.error().code == ENOENT ? Done{} : Status(present.error());
-    if (present->type == FileType::folder)
-        return Error{file.string() + " is a folder", EISDIR};
-    const Status removed = removeIfPresent(m_files, file);
-    return removed ? m_files.flush(*folder) : removed;
 }
 
 void ThemeLibrary::removeLeftovers() {

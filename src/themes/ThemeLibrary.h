@@ -4,6 +4,7 @@
 #include "platform/Path.h"
 #include "platform/Result.h"
 #include "themes/Theme.h"
+#include "themes/ThemeIconName.h"
 
 #include <map>
 #include <mutex>
@@ -92,8 +93,5 @@ private:
     const MacPath m_path;
     std::mutex m_changing; ///< held while something is changed
 };
-
-/// The bundle identifier that an icon file is for; nothing when the name is none that a theme uses.
-std::optional<std::string> bundleIDOfIcon(const std::string& fileName);
 
 } // namespace tavrik

@@ -1,1 +1,168 @@
 #include "themes/ThemeManager.h"
+
+#include "changes/PendingChangesManager.h"
+#include "icons/HiddenThemeIcons.h"
+#include "platform/Clock.h"
+#include "platform/Log.h"
+#include "platform/Mac.h"
+#include "platform/MainQueue.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Threads.h"
+#include "themes/ThemeError.h"
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+#include <utility>
+
+namespace tavrik {
+
+namespace {
+
+bool isListed(const std::vector<Theme>& themes, const std::string& themeID) {
+    return std::ranges::find(themes, themeID, &Theme::themeID) != themes.end();
+}
+
+} // namespace
+
+ThemeManager::ThemeManager(Mac& mac, SettingsManager& settings, AppManager& apps, IconStore& icons,
+                           HiddenThemeIcons& hidden, PendingChangesManager& pendingChanges,
+                           NotificationCenter& notifications)
+    : m_mac(mac),
+      m_settings(settings),
+      m_apps(apps),
+      m_icons(icons),
+      m_hidden(hidden),
+      m_pendingChanges(pendingChanges),
+      m_notifications(notifications),
+      m_library(mac) {}
+
+void ThemeManager::open() {
+    if (const Status made = m_library.createFolder(); !made)
+        log("Error creating themes directory: " + made.error().description);
+    loadThemes();
+}
+
+void ThemeManager::loadThemes() {
+    std::vector<Theme> themes = m_library.load();
+    // The order in which they were made, which is also that of `createTheme`.
+    std::ranges::sort(themes, {},
+                      [](const Theme& theme) { return std::tie(theme.createdDate, theme.themeID); });
+    change([&](std::vector<Theme>& list) { list = std::move(themes); });
+}
+
+/// Changes the list where it lives.
+void ThemeManager::change(const std::function<void(std::vector<Theme>&)>& how) {
+    MainQueue::sync([&] {
+        how(m_installedThemes);
+        m_notifications.post(kThemesUpdated);
+    });
+}
+
+std::vector<Theme> ThemeManager::listed() const {
+    std::vector<Theme> themes;
+    MainQueue::sync([&] { themes = m_installedThemes; });
+    return themes;
+}
+
+/// The name as it is to be stored, when no other theme has it.
+Result<std::string> ThemeManager::freeName(const std::string& name, const std::vector<Theme>& others) const {
+    std::string trimmed = trimmedThemeName(name);
+    if (!isValidThemeName(trimmed))
+        return errorOf(ThemeError::invalidThemeName);
+    if (std::ranges::find(others, trimmed, &Theme::name) != others.end())
+        return errorOf(ThemeError::themeAlreadyExists);
+    return trimmed;
+}
+
+Result<Theme> ThemeManager::createTheme(const std::string& name, bool moveActiveIcons) {
+    assertOffMainThread("Creating a theme");
+    const auto created = [&]() -> Result<Theme> {
+        const std::lock_guard lock(m_naming);
+        const std::vector<Theme> others = listed();
+        const auto free = freeName(name, others);
+        if (!free)
+            return free.error();
+        Theme theme{.themeID = drawThemeID(m_mac.random), .name = *free, .createdDate = m_mac.clock.now()};
+        while (isListed(others, theme.themeID))
+            theme.themeID = drawThemeID(m_mac.random);
+        if (const Status made = m_library.create(theme); !made)
+            return made.error();
+        change([&](std::vector<Theme>& list) { list.push_back(theme); });
+        return theme;
+    }();
+    if (!created) {
+        log("Error creating theme: " + created.error().description);
+        return created;
+    }
+    if (moveActiveIcons)
+        moveSelectedIcons(*created);
+    log("Successfully created theme: " + created->name);
+    return created;
+}
+
+Status ThemeManager::updateTheme(const Theme& theme, const std::string& newName) {
+    assertOffMainThread("Renaming a theme");
+    const std::lock_guard lock(m_naming);
+    const auto failed = [](const Error& error) {
+        log("Error updating theme: " + error.description);
+        return error;
+    };
+    std::vector<Theme> others = listed();
+    const auto listedTheme = std::ranges::find(others, theme.themeID, &Theme::themeID);
+    Theme renamed = listedTheme == others.end() ? theme : *listedTheme;
+    std::erase_if(others, [&](const Theme& other) { return other.themeID == theme.themeID; });
+
+    const auto free = freeName(newName, others);
+    if (!free && free.error() == errorOf(ThemeError::invalidThemeName)) {
+        log("Invalid theme name: " + newName);
+        return free.error();
+    }
+    if (!free)
+        return failed(free.error());
+    renamed.name = *free;
+    if (const Status written = m_library.update(renamed); !written)
+        return failed(written.error());
+    change([&](std::vector<Theme>& list) {
+        std::ranges::replace_if(list, [&](const Theme& old) { return old.themeID == theme.themeID; }, renamed);
+    });
+    log("Successfully updated theme: " + renamed.name);
+    return Done{};
+}
+
+Status ThemeManager::removeTheme(const std::string& themeID) {
+    assertOffMainThread("Removing a theme");
+    if (const Status removed = m_library.remove(themeID); !removed)
+        return removed;
+    ignoreFailure(m_hidden.forget(themeID)); // ids are not drawn twice
+    change([&](std::vector<Theme>& list) {
+        std::erase_if(list, [&](const Theme& theme) { return theme.themeID == themeID; });
+    });
+    return Done{};
+}
+
+std::vector<MacPath> ThemeManager::themeIconsFor(const std::string& bundleID) const {
+    std::vector<Theme> themes;
+    StagedChanges staged;
+    MainQueue::sync(
+        [&] { std::tie(themes, staged) = std::tuple(m_installedThemes, m_pendingChanges.staged()); });
+
+    std::vector<MacPath> icons;
+    for (const Theme& theme : themes) {
+        std::set<std::string> hidden = m_hidden.hidden(theme.themeID);
+        for (const ThemeIconHide& hide : staged.pendingThemeIconHides) {
+            if (hide.themeID == theme.themeID)
+                hidden.insert(hide.iconFileName);
+        }
+        // The application's entry in the list hides what the theme has for it in either format.
+        if (staged.pendingThemeDeletions.contains(theme.themeID) || hidden.contains(bundleID + ".png"))
+            continue;
+        const auto& deleted = staged.pendingThemeIconDeletions[theme.themeID];
+        hidden.insert(deleted.begin(), deleted.end());
+        if (auto icon = m_library.iconFor(theme.themeID, bundleID, hidden))
+            icons.push_back(std::move(*icon));
+    }
+    return icons;
+}
+
+} // namespace tavrik

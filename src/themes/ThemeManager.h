@@ -8,7 +8,8 @@
 
 #include <QImage>
 
-#include <map>
+#include <functional>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,9 @@ struct ThemeApplication {
 /// and applies one by staging its icons. Deleting and hiding are staged with PendingChangesManager and carried
 /// out with `library` by the apply.
 ///
+/// A kill leaves a theme as it was or as it should be. Names are told apart exactly, byte by byte; no two
+/// installed themes get the same one.
+///
 /// `installedThemes` and `isApplyingTheme` belong to the main thread and change there. Operations block on the
 /// disk and are called off the main thread; they cross to it by themselves for what changes there.
 class ThemeManager {
@@ -44,11 +48,13 @@ public:
                  HiddenThemeIcons& hidden, PendingChangesManager& pendingChanges,
                  NotificationCenter& notifications);
 
-    /// Makes the folder of the themes when it is missing, and loads them. To be called once before the rest.
+    /// Makes the folder of the themes when it is missing, and loads them. To be called once before the rest; a
+    /// program that may not write calls `loadThemes` in its place.
     void open();
 
     const MacPath& themesDirectory() const { return m_library.path(); }
 
+    /// In the order in which they were made.
     const std::vector<Theme>& installedThemes() const { return m_installedThemes; }
 
     bool isApplyingTheme() const { return m_isApplyingTheme; }
@@ -57,16 +63,23 @@ public:
 
     void loadThemes();
 
-    /// The theme made. With `moveActiveIcons` the icons that the user has selected are copied into it; a copy
-    /// that fails is logged and the theme stands.
+    /// The theme made; it is there without icons first. With `moveActiveIcons` the icons that the user has
+    /// selected are copied into it; a copy that fails is logged and the theme stands.
     Result<Theme> createTheme(const std::string& name, bool moveActiveIcons);
 
+    /// Gives a theme another name, which may be its own. Its id and date stay.
     Status updateTheme(const Theme& theme, const std::string& newName);
 
-    /// How many icons were copied.
+    /// Takes a theme from the disk and from the list, and forgets which of its icons are hidden. Fine when
+    /// there is none. For the apply of staged deletions: safe to repeat after a kill.
+    Status removeTheme(const std::string& themeID);
+
+    /// Copies the permanent icon that the settings name for each installed application, one file after the
+    /// other. What is only staged does not count, nor does a selected icon of a theme. How many were copied.
     std::size_t moveSelectedIcons(const Theme& to);
 
-    /// A picture for an application, squared to 1024 pixels.
+    /// A picture for an application, squared to 1024 pixels. A staged deletion of the icon in its place is
+    /// taken back.
     Status addIcon(const QImage& image, const std::string& bundleID, const Theme& to);
 
     /// Stages the theme's icon for every installed application that it has one for, in one write of the
@@ -74,7 +87,16 @@ public:
     /// one: that one is chosen. Decodes and scales on all cores; seconds for hundreds.
     ThemeApplication applyTheme(const Theme& theme);
 
+    /// The icons that the installed themes offer to an application, in the order of the themes: those that are
+    /// hidden, or staged to be hidden or deleted, are left out. Looks at each theme's folder.
+    std::vector<MacPath> themeIconsFor(const std::string& bundleID) const;
+
 private:
+    void change(const std::function<void(std::vector<Theme>&)>& how);
+    std::vector<Theme> listed() const;
+    Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
+    Status putIcon(const Result<Bytes>& png, const std::string& bundleID, const Theme& to);
+
     Mac& m_mac;
     SettingsManager& m_settings;
     AppManager& m_apps;
@@ -85,6 +107,7 @@ private:
     ThemeLibrary m_library;
     std::vector<Theme> m_installedThemes;
     bool m_isApplyingTheme = false;
+    std::mutex m_naming; ///< held from the look at the names to the change of one; never by the main thread
 };
 
 } // namespace tavrik
