@@ -10,11 +10,12 @@
 #include "support/LogRecorder.h"
 #include "support/NumberedMachine.h"
 #include "support/SmallMac.h"
-#include "tests/backups/Hex.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <openssl/sha.h>
 
 #include <filesystem>
 
@@ -33,10 +34,9 @@ Bytes dockPlist() {
         plist::Format::binary);
 }
 
-std::string digest(ByteView bytes) {
-    std::array<std::uint8_t, SHA256_DIGEST_LENGTH> digest{};
-    SHA256(bytes.data(), bytes.size(), digest.data());
-    return test::hex(digest);
+std::string digest(const Bytes& bytes) {
+    const QByteArray data(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+    return QCryptographicHash::hash(data, QCryptographicHash::Sha256).toHex().toStdString();
 }
 
 class BackupContentsTest : public testing::Test {
@@ -53,7 +53,17 @@ protected:
         return *sqlite::copyOf(m_file);
     }
 
-    BackupReading read() { return readBackup(m_mac.files, m_container, m_backup); }
+    BackupReading read(const ArchiveMembers& members) { return read(sealed(members)); }
+
+    BackupReading read(ByteView file) {
+        EXPECT_TRUE(m_mac.files.write(m_backup, file));
+        return readBackup(m_mac.files, m_container, m_backup);
+    }
+
+    static std::optional<BackupFault> faultOf(const BackupReading& reading) {
+        const auto* fault = std::get_if<BackupFault>(&reading);
+        return fault ? std::optional(*fault) : std::nullopt;
+    }
 
     test::SmallMac m_mac;
     test::LogRecorder m_log;
@@ -67,78 +77,62 @@ protected:
 } // namespace
 
 TEST_F(BackupContentsTest, AreReadBackAndNothingIsLeft) {
-    const Bytes file =
-        sealed({{kDockMember, m_sound.dockPlist}, {kLaunchpadMember, m_sound.launchpadDatabase}});
-    ASSERT_TRUE(m_mac.files.write(m_backup, file));
-    const auto before = test::treeOf(m_mac.folder.path());
-    const auto reading = read();
+    const auto reading =
+        read({{kDockMember, m_sound.dockPlist}, {kLaunchpadMember, m_sound.launchpadDatabase}});
     const auto* contents = std::get_if<BackupContents>(&reading);
     ASSERT_TRUE(contents);
     EXPECT_EQ(contents->dockPlist, m_sound.dockPlist);
     EXPECT_EQ(contents->launchpadDatabase, m_sound.launchpadDatabase);
-    EXPECT_EQ(test::treeOf(m_mac.folder.path()), before);
+    EXPECT_THAT(test::treeOf(m_mac.folder.path()),
+                testing::ElementsAre(testing::Key("db"), testing::Key("one.encrypted")));
     EXPECT_THAT(m_log.lines(), testing::IsEmpty());
 }
 
-TEST_F(BackupContentsTest, AreRefusedWithTheFirstFaultFound) {
-    const Bytes& dock = m_sound.dockPlist;
-    const Bytes& database = m_sound.launchpadDatabase;
+TEST_F(BackupContentsTest, AreRefusedForTheFirstFaultFound) {
+    const auto& [dock, database] = m_sound;
     auto other = sqlite::Connection::open(m_mac.folder.path() / "other", sqlite::OpenMode::readWriteCreate);
     ASSERT_TRUE(
         other->execute("CREATE TABLE items (a); CREATE TABLE apps (a); CREATE VIEW groups AS SELECT 1"));
+    const Bytes otherDatabase = *sqlite::copyOf(m_mac.folder.path() / "other");
     Bytes damaged = database;
     std::fill(damaged.end() - 4096, damaged.end(), std::uint8_t{0xFF}); // its last page
-    const auto list = [](const plist::Value& value) { return *plist::serialize(value, plist::Format::xml); };
+    const Bytes array = *plist::serialize(plist::Array{}, plist::Format::xml);
 
     const struct {
         const char* name;
         BackupFault fault;
-        Bytes file;
+        BackupReading reading;
     } cases[] = {
-        {"sealed elsewhere", BackupFault::sealed, Bytes(500, 1)},
-        {"cut short", BackupFault::sealed, Bytes(27)},
-        {"no list", BackupFault::noArchive, *m_container.seal(Bytes(500, 1))},
-        {"an array", BackupFault::noArchive, *m_container.seal(list(plist::Array{}))},
-        {"nothing in it", BackupFault::noDockPlist, sealed({})},
-        {"one member", BackupFault::noDatabase, sealed({{kDockMember, dock}})},
+        {"sealed elsewhere", BackupFault::sealed, read(Bytes(500, 1))},
+        {"cut short", BackupFault::sealed, read(Bytes(27))},
+        {"no list", BackupFault::noArchive, read(*m_container.seal(Bytes(500, 1)))},
+        {"an array", BackupFault::noArchive, read(*m_container.seal(array))},
+        {"nothing in it", BackupFault::noDockPlist, read(ArchiveMembers())},
+        {"one member", BackupFault::noDatabase, read({{kDockMember, dock}})},
         {"an array as the Dock's", BackupFault::damagedDockPlist,
-         sealed({{kDockMember, list(plist::Array{})}, {kLaunchpadMember, database}})},
-        {"both empty", BackupFault::damagedDockPlist, sealed({{kDockMember, {}}, {kLaunchpadMember, {}}})},
-        {"an empty database", BackupFault::damagedDatabase,
-         sealed({{kDockMember, dock}, {kLaunchpadMember, {}}})},
+         read({{kDockMember, array}, {kLaunchpadMember, database}})},
+        {"both empty", BackupFault::damagedDockPlist, read({{kDockMember, {}}, {kLaunchpadMember, {}}})},
+        {"no bytes", BackupFault::damagedDatabase, read({{kDockMember, dock}, {kLaunchpadMember, {}}})},
         {"another database", BackupFault::damagedDatabase,
-         sealed({{kDockMember, dock}, {kLaunchpadMember, *sqlite::copyOf(m_mac.folder.path() / "other")}})},
+         read({{kDockMember, dock}, {kLaunchpadMember, otherDatabase}})},
         {"a damaged page", BackupFault::damagedDatabase,
-         sealed({{kDockMember, dock}, {kLaunchpadMember, damaged}})},
+         read({{kDockMember, dock}, {kLaunchpadMember, damaged}})},
     };
 
-    for (const auto& each : cases) {
-        ASSERT_TRUE(m_mac.files.write(m_backup, each.file));
-        const auto reading = read();
-        const auto* fault = std::get_if<BackupFault>(&reading);
-        ASSERT_TRUE(fault) << each.name;
-        EXPECT_EQ(*fault, each.fault) << each.name;
-    }
+    for (const auto& each : cases)
+        EXPECT_EQ(faultOf(each.reading), each.fault) << each.name;
 }
 
 TEST_F(BackupContentsTest, AreNotReadFromAFileThatIsMissingOrBeyondTheLimit) {
-    for (const bool exists : {false, true}) {
-        if (exists) {
-            ASSERT_TRUE(m_mac.files.write(m_backup, {}));
-            std::filesystem::resize_file(m_mac.mac.volume.hostPath(m_backup).string(),
-                                         FileManager::kLargestRead + 1);
-        }
-        m_log.clear();
-        const auto reading = read();
-        const auto* fault = std::get_if<BackupFault>(&reading);
-        EXPECT_TRUE(fault && *fault == BackupFault::unreadable);
-        EXPECT_THAT(m_log.lines(), testing::ElementsAre("Failed to read backup file"));
-    }
+    EXPECT_EQ(faultOf(readBackup(m_mac.files, m_container, m_backup)), BackupFault::unreadable);
+    ASSERT_TRUE(m_mac.files.write(m_backup, {}));
+    std::filesystem::resize_file(m_mac.mac.volume.hostPath(m_backup).string(), FileManager::kLargestRead + 1);
+    EXPECT_EQ(faultOf(readBackup(m_mac.files, m_container, m_backup)), BackupFault::unreadable);
+    EXPECT_EQ(m_log.count("Failed to read backup file"), 2);
 }
 
 TEST_F(BackupContentsTest, AreWhatAnotherReaderOfTheFormatFinds) {
-    const Bytes& dock = m_sound.dockPlist;
-    const Bytes& database = m_sound.launchpadDatabase;
+    const auto& [dock, database] = m_sound;
     ASSERT_TRUE(m_mac.files.write(m_backup, sealed({{kDockMember, dock}, {kLaunchpadMember, database}})));
     const auto script = runChild(HostPath("/usr/bin/python3"),
                                  {OPEN_BACKUP, m_mac.mac.volume.hostPath(m_backup).string(), kSerial}, {});
