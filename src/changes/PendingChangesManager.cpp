@@ -117,17 +117,48 @@ IconRow PendingChangesManager::iconRow(const std::string& bundleID, const Staged
 
 bool PendingChangesManager::addIcon(const std::string& bundleID, const MacPath& pendingIcon) {
     assertOnMainThread("Adding an icon");
-    const auto present = m_files.attributes(pendingIcon, Links::dontFollow);
-    if (!isPendingIconOf(pendingIcon, bundleID) || !present || present->type != FileType::file) {
-        log("⚠️ Refusing what is not a pending icon of " + bundleID + ": " + pendingIcon.string());
+    if (!isSavedIconOf(pendingIcon, bundleID))
         return false;
-    }
-    IconRow row = iconRow(bundleID);
-    insertOnce(row.pendingAdditionPaths, pendingIcon);
-    const auto display = row.displayPaths();
-    stageRow(bundleID, row.pendingAdditionPaths, row.hiddenPermanentIndices,
-             static_cast<int>(std::ranges::find(display, pendingIcon) - display.begin()));
+    recordIcon(bundleID, pendingIcon);
+    updatePendingChangesState();
     return true;
+}
+
+std::size_t PendingChangesManager::addIcons(const std::map<std::string, MacPath>& icons) {
+    assertOnMainThread("Adding icons");
+    std::size_t staged = 0;
+    for (const auto& [bundleID, icon] : icons) {
+        const auto shown = iconRow(bundleID).displayPaths();
+        if (std::ranges::find(shown, icon) == shown.end() && !isSavedIconOf(icon, bundleID))
+            continue;
+        recordIcon(bundleID, icon);
+        ++staged;
+    }
+    if (staged > 0)
+        updatePendingChangesState();
+    return staged;
+}
+
+/// With a log line when it is not.
+bool PendingChangesManager::isSavedIconOf(const MacPath& path, const std::string& bundleID) const {
+    const auto present = m_files.attributes(path, Links::dontFollow);
+    if (isPendingIconOf(path, bundleID) && present && present->type == FileType::file)
+        return true;
+    log("⚠️ Refusing what is not a pending icon of " + bundleID + ": " + path.string());
+    return false;
+}
+
+/// The icon is chosen: where the row shows it, or else as its last one.
+void PendingChangesManager::recordIcon(const std::string& bundleID, const MacPath& icon) {
+    IconRow row = iconRow(bundleID);
+    auto display = row.displayPaths();
+    auto place = std::ranges::find(display, icon);
+    if (place == display.end()) {
+        row.pendingAdditionPaths.push_back(icon);
+        place = display.insert(display.end(), icon);
+    }
+    recordRow(bundleID, row.pendingAdditionPaths, row.hiddenPermanentIndices,
+              static_cast<int>(place - display.begin()));
 }
 
 bool PendingChangesManager::removeIcon(const std::string& bundleID, int displayIndex) {
@@ -177,6 +208,13 @@ void PendingChangesManager::updatePendingState(const std::string& bundleID,
 
 bool PendingChangesManager::stageRow(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
                                      const std::set<int>& hiddenIndices, std::optional<int> selectedIndex) {
+    recordRow(bundleID, pendingPaths, hiddenIndices, selectedIndex);
+    return updatePendingChangesState();
+}
+
+/// In memory alone.
+void PendingChangesManager::recordRow(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
+                                      const std::set<int>& hiddenIndices, std::optional<int> selectedIndex) {
     log("📊 updatePendingState for " + bundleID);
     log("   Pending paths: " + listText(pendingPaths, [](const MacPath& path) { return path.string(); }));
     log("   Hidden indices: " + listText(hiddenIndices, [](int index) { return std::to_string(index); }));
@@ -209,7 +247,6 @@ bool PendingChangesManager::stageRow(const std::string& bundleID, const std::vec
         m_staged.markedForDeletion.erase(bundleID);
     else
         m_staged.markedForDeletion.insert_or_assign(bundleID, row.hiddenPermanentIndices);
-    return updatePendingChangesState();
 }
 
 // Themes and fonts

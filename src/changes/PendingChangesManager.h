@@ -131,6 +131,10 @@ public:
     void clearAllPendingChanges();
 
 private:
+    bool isSavedIconOf(const MacPath& path, const std::string& bundleID) const;
+    void recordIcon(const std::string& bundleID, const MacPath& icon);
+    void recordRow(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
+                   const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
     bool stageRow(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
                   const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
     bool updatePendingChangesState();

@@ -69,6 +69,33 @@ TEST_F(Staging, AnEntryIsThereWhileItDiffersFromWhatIsApplied) {
     expectStaged(false, "clearing");
 }
 
+TEST_F(Staging, ManyIconsAreStagedInOneWriteAndTheBadOnesLeftOut) {
+    ASSERT_TRUE(add(1) && add(2) && apply());
+    ASSERT_TRUE(add(3));
+    const auto saved = [&](const std::string& bundleID) {
+        return program->store.savePendingIcon(QImage(8, 8, QImage::Format_RGB32), bundleID).value();
+    };
+    int posts = 0;
+    const auto observation =
+        program->notifications.observe(std::string(kPendingChangesUpdated), [&] { ++posts; });
+    log.clear();
+    const MacPath foreign = saved("com.example.foreign");
+    EXPECT_EQ(changes().addIcons({{kAtlas, permanent("icon_0.png")},
+                                  {"com.example.missing", pending("icon_7.png")},
+                                  {"com.example.new", saved("com.example.new")},
+                                  {"com.example.thief", foreign},
+                                  {"../up", foreign}}),
+              2U);
+    EXPECT_EQ(row(), (Row{{1, 2, 3}, 1})) << "what the row has is chosen, not added again";
+    EXPECT_EQ(changes().iconRow("com.example.new").selectedIconIndex, 0);
+    EXPECT_EQ(changes().staged().pendingChanges.size(), 2U);
+    EXPECT_EQ(log.count("📝 savePendingChangesToTempFile called"), 1U);
+    EXPECT_EQ(changes().addIcons({{kAtlas, permanent("icon_9.png")}}), 0U);
+    EXPECT_EQ(posts, 1);
+    ASSERT_TRUE(recover());
+    EXPECT_EQ(row(), (Row{{1, 2, 3}, 1}));
+}
+
 TEST_F(Staging, UnsafeNamesAreNotStaged) {
     for (const std::string name : {"", ".", "..", "a/b", "../x", "/x", "a\nb", "-rf"}) {
         changes().hideThemeIcon(name, "icon.png");
