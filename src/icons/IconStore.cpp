@@ -67,7 +67,20 @@ Result<std::vector<NumberedIcon>> IconStore::icons(const MacPath& base, const st
     return numberedIcons(m_files, *folder);
 }
 
+std::optional<IconPicture> IconStore::iconPicture(const QImage& image) {
+    auto png = png::encode(image);
+    if (png)
+        return IconPicture{image, std::move(*png)};
+    log("Failed to convert icon to PNG");
+    return std::nullopt;
+}
+
 std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std::string& bundleID) {
+    const auto picture = iconPicture(image);
+    return picture ? savePendingIcon(*picture, bundleID) : std::nullopt;
+}
+
+std::optional<MacPath> IconStore::savePendingIcon(const IconPicture& picture, const std::string& bundleID) {
     const auto failed = [](const Error& error) {
         log("Failed to save pending icon: " + error.description);
         return std::nullopt;
@@ -75,11 +88,6 @@ std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std
     const auto folder = safeFolder(m_pendingIconsBaseURL, bundleID);
     if (!folder)
         return failed(folder.error());
-    const auto data = png::encode(image);
-    if (!data) {
-        log("Failed to convert icon to PNG");
-        return std::nullopt;
-    }
 
     const std::lock_guard lock(m_pendingLock);
     if (const Status created = createPlainFolder(m_files, m_appSupportURL, *folder); !created)
@@ -90,9 +98,9 @@ std::optional<MacPath> IconStore::savePendingIcon(const QImage& image, const std
         return failed({path.string() + " is no name of an icon", EINVAL});
     if (const Status cleared = clearThumbnails(m_files, path); !cleared)
         return failed(cleared.error());
-    if (const Status created = createAtomically(m_files, path, *data); !created)
+    if (const Status created = createAtomically(m_files, path, picture.png); !created)
         return failed(created.error());
-    m_cache.insert(path, image);
+    m_cache.insert(path, picture.image);
     log("💾 Saved pending icon to: " + path.string() + " with index " + std::to_string(index));
     return path;
 }

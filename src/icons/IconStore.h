@@ -1,6 +1,7 @@
 #pragma once
 
 #include "icons/IconMoves.h"
+#include "platform/Bytes.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
@@ -17,6 +18,12 @@ namespace tavrik {
 class FileManager;
 class IconCache;
 class SettingsManager;
+
+/// A picture as the store keeps it.
+struct IconPicture {
+    QImage image;
+    Bytes png; ///< the file's content: equal pictures have equal bytes
+};
 
 /// The icon files of every application: the permanent ones in "IconCache", the pending ones in
 /// "PendingChanges/Icons" of the support folder, a folder for each bundle identifier. The one place that makes,
@@ -38,6 +45,10 @@ public:
     /// stable storage when its path is returned; nothing after a failure, with no file left. A kill leaves the
     /// icon, nothing, or a file with ".new" at its end, which counts as no icon. Never overwrites.
     std::optional<MacPath> savePendingIcon(const QImage& image, const std::string& bundleID);
+    std::optional<MacPath> savePendingIcon(const IconPicture& picture, const std::string& bundleID);
+
+    /// Nothing, with a log line, when the picture cannot be written as PNG. Pure; any thread.
+    static std::optional<IconPicture> iconPicture(const QImage& image);
 
     /// One above the highest number in either folder; 0 when there is none.
     int nextAvailableIndex(const std::string& bundleID) const;

@@ -13,9 +13,10 @@ class FontReplacer;
 
 /// How a picture was matched to an application, the surest first.
 enum class MatchKind {
-    identifier,  ///< the file is named by the bundle identifier
-    name,        ///< by the application's name exactly
-    foldedName,  ///< by its name but for case, accents, styles, punctuation and version words
+    identifier, ///< the file is named by the bundle identifier
+    name,       ///< by the application's name exactly
+    foldedName, ///< by its name but for case, accents, styles, punctuation and version words; or by the last
+                ///< part of an identifier
     subsequence, ///< its letters occur in the name in order: a guess, scored
 };
 
@@ -30,13 +31,17 @@ struct IconMatch {
 };
 
 struct IconMatches {
-    std::vector<IconMatch> sure;     ///< at most one for each application and for each file
-    std::vector<IconMatch> doubtful; ///< guesses, the best for each application that has no sure one
-    std::vector<std::string> unmatched;
+    std::vector<IconMatch> sure;         ///< at most one for each application and for each file
+    std::vector<IconMatch> alternatives; ///< just as sure as the one in `sure`, which comes first by file name
+    /// For applications that have no sure one, at most one each: the best guess, or a file that fits several
+    /// applications equally well.
+    std::vector<IconMatch> doubtful;
+    std::vector<std::string> unmatched; ///< fit none, or one that has a surer picture
 };
 
 /// Finds an application for each picture by the picture's file name without its extension. Pure; any thread.
-/// The same input gives the same matches, whatever its order.
+/// The same input gives the same matches, whatever its order: by application, the unmatched by file name. Takes
+/// half a second for 5,000 files and 300 applications.
 IconMatches matchIcons(const std::vector<std::string>& fileNames, const std::vector<ApplicationInfo>& apps,
                        const FontReplacer& fonts);
 

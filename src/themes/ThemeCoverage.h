@@ -12,7 +12,7 @@ namespace tavrik {
 /// What a theme means for the installed applications.
 struct ThemeCoverage {
     std::vector<ApplicationInfo> covered;       ///< would get its icon
-    std::vector<ApplicationInfo> lacking;       ///< has none in the theme
+    std::vector<ApplicationInfo> lacking;       ///< has none in the theme, and could have
     std::vector<ApplicationInfo> hidden;        ///< has one that the user hid
     std::vector<ApplicationInfo> notRestylable; ///< has one, but cannot be restyled
     std::vector<ThemeIcon> withoutApplication;  ///< icons of no installed application

@@ -30,7 +30,8 @@ inline constexpr std::string_view kThemesUpdated = "ThemesUpdated";
 /// What an application of a theme came to.
 struct ThemeApplication {
     std::size_t applied = 0;
-    std::vector<std::string> failed; ///< a sentence each: an image that could not be read or saved
+    std::vector<std::string> failed;        ///< a sentence each: an image that could not be read or saved
+    std::vector<ApplicationInfo> leftAlone; ///< the theme has an icon for them, but they cannot be restyled
 };
 
 /// The library of themes as the interface sees it: lists them, makes and renames them, fills them with icons,
@@ -96,6 +97,10 @@ private:
     std::vector<Theme> listed() const;
     Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
     Status putIcon(const Result<Bytes>& png, const std::string& bundleID, const Theme& to);
+    struct WantedIcon;
+    void setApplyingTheme(bool isApplying);
+    std::vector<WantedIcon> wantedIcons(const Theme& theme, ThemeApplication& answer);
+    Result<MacPath> iconOf(const WantedIcon& wanted);
 
     Mac& m_mac;
     SettingsManager& m_settings;

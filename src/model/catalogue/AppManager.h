@@ -21,6 +21,7 @@ namespace tavrik {
 class DatabaseManager;
 class IconCache;
 class IconStore;
+struct IconPicture;
 class SettingsManager;
 
 /// The catalogue of the applications that Launchpad shows, read from its database on demand; and the door
@@ -50,6 +51,13 @@ public:
     void processPicture(Bytes content, const std::string& pictureName, const std::string& forBundleID,
                         const std::string& name, QObject* context, IconCompletion completion);
 
+    /// The same in two steps on the calling thread, out of that turn: for many pictures side by side. `picture`
+    /// may be the reason why there is none. Between the two nothing is on disk. Any thread but the main one.
+    static Result<IconPicture> iconPicture(const Result<QImage>& picture, const std::string& forBundleID,
+                                           const std::string& name);
+    Result<MacPath> saveIcon(const IconPicture& picture, const std::string& forBundleID,
+                             const std::string& name);
+
     /// Set while an apply runs.
     std::atomic<bool> isApplyingChanges = false;
 
@@ -68,7 +76,6 @@ public:
 private:
     void process(std::function<Result<QImage>()> picture, const std::string& bundleID, const std::string& name,
                  QPointer<QObject> context, IconCompletion completion);
-    Result<MacPath> save(const Result<QImage>& picture, const std::string& bundleID, const std::string& name);
 
     DatabaseManager& m_database;
     SettingsManager& m_settings;
