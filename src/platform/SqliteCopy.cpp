@@ -39,13 +39,16 @@ Result<Connection> openForCopying(const HostPath& file) {
     return std::move(*connection);
 }
 
-/// An empty database whose file is one piece of memory, so that it can be taken as it is.
-std::optional<Connection> makeEmpty() {
-    auto connection = Connection::openInMemory();
-    constexpr unsigned kFlags = SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_RESIZEABLE;
-    if (!connection || sqlite3_deserialize(connection->handle(), "main", nullptr, 0, 0, kFlags) != SQLITE_OK)
-        return std::nullopt;
-    return connection;
+/// How large the database is; nothing when it cannot be read.
+std::optional<std::size_t> sizeOf(Connection& database) {
+    std::size_t size = 1;
+    for (const char* factor : {"PRAGMA page_count", "PRAGMA page_size"}) {
+        Statement asked = database.prepare(factor);
+        if (!asked || asked.step() != Step::row)
+            return std::nullopt;
+        size *= static_cast<std::size_t>(asked.int64(0).value_or(0));
+    }
+    return size;
 }
 
 } // namespace
@@ -54,25 +57,25 @@ Result<Bytes> copyOf(const HostPath& database) {
     Result<Connection> source = openForCopying(database);
     if (!source)
         return source.error();
-    const auto copy = makeEmpty();
-    if (!copy)
-        return Error{kNoMemory};
+    // In a transaction, what is copied is as large as it was when it was asked for its size.
+    const bool began = source->execute("BEGIN");
+    const auto size = began ? sizeOf(*source) : std::nullopt;
+    if (!size)
+        return Error{source->lastError()};
+    if (*size == 0)
+        return Error{"The database is empty"};
 
+    Bytes bytes(*size);
+    const auto capacity = static_cast<sqlite3_int64>(*size);
+    const auto copy = Connection::openInMemory();
+    if (!copy || sqlite3_deserialize(copy->handle(), "main", bytes.data(), 0, capacity, 0) != SQLITE_OK)
+        return Error{kNoMemory};
     sqlite3_backup* backup = sqlite3_backup_init(copy->handle(), "main", source->handle(), "main");
     const int stepped = backup ? sqlite3_backup_step(backup, -1) : sqlite3_errcode(copy->handle());
-    const bool isEmpty = stepped == SQLITE_DONE && sqlite3_backup_pagecount(backup) == 0;
     const int finished = sqlite3_backup_finish(backup);
     if (stepped != SQLITE_DONE || finished != SQLITE_OK)
         return Error{sqlite3_errstr(stepped != SQLITE_DONE ? stepped : finished)};
-
-    if (isEmpty)
-        return Error{"The database is empty"};
-
-    sqlite3_int64 size = 0;
-    const std::uint8_t* content = sqlite3_serialize(copy->handle(), "main", &size, SQLITE_SERIALIZE_NOCOPY);
-    if (!content)
-        return Error{kNoMemory};
-    return Bytes(content, content + size);
+    return bytes;
 }
 
 Result<Connection> openCopy(ByteView file) {
