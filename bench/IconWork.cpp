@@ -1,6 +1,6 @@
 // What the program does with icons, each as a whole process.
 //   icon_work make FOLDER                         a practice Mac
-//   icon_work picture drawn|photo SIDE FILE       a PNG to begin with
+//   icon_work picture drawn|photo|icon SIDE FILE  a PNG to begin with, by Qt; an icon by us
 //   icon_work drop FOLDER IDENTIFIER FILE         takes the picture in: icon and both thumbnails saved; prints
 //   the icon's bytes icon_work qt FILE OUT                         the same by Qt with its default writer, into
 //   a folder of the host icon_work walk FOLDER APPLICATIONS ICONS      looks at that many icons and thumbnails;
@@ -10,6 +10,7 @@
 #include "bench/SamplePictures.h"
 #include "icons/ImageIntake.h"
 #include "platform/FileManager.h"
+#include "platform/Png.h"
 #include "practice/furnish/Furnish.h"
 #include "system/IconManager.h"
 
@@ -31,6 +32,11 @@ int make(const HostPath& folder) {
 
 int picture(std::string_view kind, int side, const char* file) {
     const QImage drawn = kind == "photo" ? photoLikePicture(side) : drawnPicture(side);
+    if (kind == "icon") {
+        const auto coded = png::encode(drawn);
+        std::ofstream stream(file, std::ios::binary);
+        return coded && stream.write(reinterpret_cast<const char*>(coded->data()), std::ssize(*coded)) ? 0 : 1;
+    }
     return drawn.save(QString::fromUtf8(file), "png") ? 0 : 1;
 }
 

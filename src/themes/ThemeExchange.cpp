@@ -12,9 +12,6 @@
 #include "themes/ThemeIconCheck.h"
 #include "themes/ThemeManager.h"
 
-#include <QTextBoundaryFinder>
-
-#include <algorithm>
 #include <cerrno>
 #include <set>
 #include <utility>
@@ -23,32 +20,6 @@
 namespace tavrik {
 
 namespace {
-
-std::string withoutLastCharacter(const std::string& text) {
-    const QString units = QString::fromStdString(text);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, units);
-    finder.toEnd();
-    finder.toPreviousBoundary();
-    return units.left(std::max<qsizetype>(finder.position(), 0)).toStdString();
-}
-
-/// The name, or the first of "<name> 2", "<name> 3" ... that no theme has; shortened where it gets too long.
-std::string freeName(const std::string& name, const std::set<std::string>& taken) {
-    std::string candidate = name;
-    for (unsigned number = 2; taken.contains(candidate); ++number) {
-        const std::string ending = " " + std::to_string(number);
-        std::string beginning = name;
-        while (!isValidThemeName(beginning + ending))
-            beginning = trimmedThemeName(withoutLastCharacter(beginning));
-        candidate = beginning + ending;
-    }
-    return candidate;
-}
-
-/// Anything there counts, a dangling link too; what cannot be looked at does not, and is left to the creation.
-bool isTaken(const FileManager& files, const MacPath& folder) {
-    return bool(files.attributes(folder, Links::dontFollow));
-}
 
 /// A file among a theme's icons.
 struct Candidate {
@@ -122,19 +93,7 @@ Result<Theme> ThemeExchange::importTheme(ByteView file, const std::string& fileN
     const auto package = readThemeFile(file, fileName);
     if (!package)
         return package.error();
-    ThemeLibrary& library = m_themes.library();
-    std::set<std::string> names;
-    for (const Theme& installed : library.load())
-        names.insert(installed.name);
-    Theme theme = package->theme;
-    theme.name = freeName(theme.name, names);
-    while (isTaken(m_mac.files, library.folderOf(theme.themeID)))
-        theme.themeID = drawThemeID(m_mac.random);
-    if (const Status created = library.create(theme, package->icons); !created)
-        return Error{errorOf(ThemeError::installationFailed, created.error().description).description,
-                     created.error().code};
-    m_themes.loadThemes();
-    return theme;
+    return m_themes.installTheme(package->theme, package->icons);
 }
 
 } // namespace tavrik

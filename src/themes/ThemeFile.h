@@ -16,6 +16,8 @@ namespace tavrik {
 struct ThemePackage {
     Theme theme;
     std::map<std::string, Bytes> icons; ///< content by file name: "com.example.atlas.png"
+
+    bool operator==(const ThemePackage&) const = default;
 };
 
 /// Limits of what is taken in.

@@ -130,7 +130,7 @@ Status Reading::checkSizes() {
     for (const auto& [name, entry] : m_entries) {
         const bool isRecord = name == kThemeRecordEntry;
         if (!isRecord && !iconNameOf(name))
-            return invalid("holds " + quotedName(name) + ", which does not belong into a theme");
+            return invalid("holds " + quotedName(name) + ", which does not belong in a theme");
         const auto expected = m_manifest.find(name);
         if (expected == m_manifest.end())
             return invalid("holds " + quotedName(name) + ", which its manifest does not list");

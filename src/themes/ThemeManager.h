@@ -9,6 +9,7 @@
 #include <QImage>
 
 #include <functional>
+#include <map>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -68,6 +69,11 @@ public:
     /// selected are copied into it; a copy that fails is logged and the theme stands.
     Result<Theme> createTheme(const std::string& name, bool moveActiveIcons);
 
+    /// Takes in a theme with these icons, content by file name. It keeps its date; its id, unless that is
+    /// taken; and its name, unless another theme has it: then a number is added, "Ocean 2". There whole or not
+    /// at all.
+    Result<Theme> installTheme(const Theme& theme, const std::map<std::string, Bytes>& icons);
+
     /// Gives a theme another name, which may be its own. Its id and date stay.
     Status updateTheme(const Theme& theme, const std::string& newName);
 
@@ -96,6 +102,7 @@ private:
     void change(const std::function<void(std::vector<Theme>&)>& how);
     std::vector<Theme> listed() const;
     Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
+    bool isTaken(const std::string& themeID) const;
     Status putIcon(const Result<Bytes>& png, const std::string& bundleID, const Theme& to);
     struct WantedIcon;
     void setApplyingTheme(bool isApplying);

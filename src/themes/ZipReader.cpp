@@ -156,6 +156,8 @@ Result<Bytes> unpack(const Entry& entry) {
     constexpr std::size_t kMostPerByte = 1032; // what deflate makes of one byte at best
     Bytes content;
     if (entry.method == kStored) {
+        if (entry.packed.size() != entry.size)
+            return damaged();
         content.assign(entry.packed.begin(), entry.packed.end());
     } else {
         if (entry.size / kMostPerByte > entry.packed.size())
@@ -172,7 +174,7 @@ Result<Bytes> unpack(const Entry& entry) {
             taken != entry.packed.size())
             return damaged();
     }
-    if (content.size() != entry.size || libdeflate_crc32(0, content.data(), content.size()) != entry.checksum)
+    if (libdeflate_crc32(0, content.data(), content.size()) != entry.checksum)
         return damaged();
     return content;
 }
