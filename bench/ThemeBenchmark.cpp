@@ -5,6 +5,8 @@
 #include "themes/ThemeExchange.h"
 #include "themes/ThemeFile.h"
 
+#include <QCoreApplication>
+
 #include <benchmark/benchmark.h>
 
 namespace tavrik::bench {
@@ -28,13 +30,19 @@ ThemePackage package() {
     return made;
 }
 
-/// A practice Mac with the theme in its library, silent.
-struct Library {
-    Library() : practice(folder.path()) {
-        setLogStream(nullptr);
-        need(themes.library().create(kTheme, package().icons));
-    }
+/// For the way to the main thread, which goes by it.
+struct Application {
+    int count = 1;
+    char name[6] = "bench";
+    char* arguments[2] = {name, nullptr};
+    QCoreApplication application{count, arguments};
+};
 
+/// A practice Mac with the theme in its library, silent.
+struct Library : Application {
+    Library() : practice(folder.path()) { need(themes.library().create(kTheme, package().icons)); }
+
+    const bool isSilent = (setLogStream(nullptr), true);
     Folder folder;
     practice::PracticeMac practice;
     Managers managers{practice.mac()};

@@ -12,6 +12,7 @@
 #include "themes/ThemeIconCheck.h"
 #include "themes/ThemeManager.h"
 
+#include <atomic>
 #include <cerrno>
 #include <set>
 #include <utility>
@@ -64,10 +65,14 @@ Result<Bytes> ThemeExchange::exportTheme(const Theme& theme) const {
         names = std::vector<std::string>();
 
     std::vector<Candidate> candidates(names->size());
+    std::atomic<std::size_t> bytes = 0;
     const Status read = onAllCores(names->size(), [&](std::size_t place) -> Status {
         auto candidate = readCandidate(m_mac.files, folder / (*names)[place]);
         if (!candidate)
             return candidate.error();
+        if ((bytes += candidate->content.size()) > kLargestThemeSize)
+            return errorOf(ThemeError::invalidThemeFormat,
+                           "“" + theme.name + "” holds more than " + megabytes(kLargestThemeSize));
         candidates[place] = std::move(*candidate);
         return Done{};
     });
