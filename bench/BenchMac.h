@@ -43,11 +43,12 @@ struct Catalogue {
 };
 
 /// Furnishes a practice Mac with so many rows in its Launchpad database. Ends the process when it cannot.
-inline void furnishWithRows(const HostPath& root, int rows) {
+inline void furnishWithRows(const HostPath& root, int rows,
+                            practice::TitleStyle style = practice::TitleStyle::plain) {
     const auto furnished = practice::furnish(root, {});
     practice::PracticeMac mac(root);
     const HostPath file = mac.mac().volume.hostPath(launchpadDatabasePath(mac.mac().volume.temporaryFolder()));
-    if (!furnished || !practice::writeLargeDatabase(root, file, rows, practice::TitleStyle::plain))
+    if (!furnished || !practice::writeLargeDatabase(root, file, rows, style))
         std::abort();
 }
 
