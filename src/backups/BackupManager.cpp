@@ -8,6 +8,7 @@
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PathComponent.h"
+#include "platform/SqliteCopy.h"
 #include "platform/Threads.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
@@ -35,6 +36,17 @@ std::string restoreLine(BackupFault fault) {
         break;
     }
     return "❌ Failed to restore backup files: " + inWords(fault);
+}
+
+std::vector<BackupListItem> itemsOf(const std::vector<BackupFolder::Entry>& entries) {
+    constexpr std::uint64_t kKilobyte = 1000;
+    std::vector<BackupListItem> items;
+    for (const BackupFolder::Entry& entry : entries)
+        items.push_back({.id = entry.url.stem(),
+                         .url = entry.url,
+                         .date = entry.date,
+                         .sizeInKB = static_cast<std::int64_t>((entry.size + kKilobyte - 1) / kKilobyte)});
+    return items;
 }
 
 Error creationFailed(const std::string& reason) {
@@ -68,14 +80,14 @@ std::vector<MacPath> BackupManager::listBackups() const {
 }
 
 std::vector<BackupListItem> BackupManager::listItems() const {
-    constexpr std::uint64_t kKilobyte = 1000;
-    std::vector<BackupListItem> items;
-    for (const BackupFolder::Entry& entry : m_folder.entries())
-        items.push_back({.id = entry.url.stem(),
-                         .url = entry.url,
-                         .date = entry.date,
-                         .sizeInKB = static_cast<std::int64_t>((entry.size + kKilobyte - 1) / kKilobyte)});
-    return items;
+    return itemsOf(m_folder.entries());
+}
+
+Result<std::vector<BackupListItem>> BackupManager::readItems() const {
+    const auto entries = m_folder.read();
+    if (!entries)
+        return Error{"The backups cannot be looked at: " + entries.error().description + "."};
+    return itemsOf(*entries);
 }
 
 Result<MacPath> BackupManager::find(const std::string& name) const {
@@ -106,7 +118,7 @@ Result<MacPath> BackupManager::createBackup(const std::set<MacPath>& spared) {
     assertOffMainThread("Taking a backup");
     auto live = readLive();
     if (const auto* fault = std::get_if<LiveStoresFault>(&live))
-        return fault->error;
+        return Error{"No backup was made. " + fault->error.description};
     return keep(std::get<BackupContents>(std::move(live)), spared);
 }
 
@@ -174,6 +186,20 @@ bool BackupManager::holds(const MacPath& backup, const BackupContents& contents)
            found->launchpadDatabase == contents.launchpadDatabase;
 }
 
+Result<LayoutSummary> BackupManager::summaryOfLiveStores() {
+    assertOffMainThread("Reading the live stores");
+    auto live = readLiveStores(m_mac, m_dock.dockPlistPath(), m_database.launchpadDatabasePath());
+    if (const auto* fault = std::get_if<LiveStoresFault>(&live))
+        return fault->error;
+    auto& contents = std::get<BackupContents>(live);
+    auto copy = sqlite::openCopy(contents.launchpadDatabase);
+    if (!copy)
+        return Error{"The Launchpad database cannot be read: " + copy.error().description + "."};
+    // A snapshot would hold it as it is, too, where it cannot be cleaned.
+    ignoreFailure(m_launchpadCleaning.cleanInPlace(*copy));
+    return summaryOf(m_dockCleaning.clean(std::move(contents.dockPlist)), *copy);
+}
+
 // Putting one back
 
 Status BackupManager::restoreBackup(const MacPath& backup) {
@@ -187,8 +213,12 @@ Status BackupManager::restoreBackup(const MacPath& backup) {
     if (Status kept = keepPresentState(backup); !kept)
         return kept;
     Status restored = m_restore.run(std::get<BackupContents>(reading));
-    if (restored)
-        MainQueue::sync([this] { m_notifications.post(kReloadApplicationsAfterBackupRestore); });
+    if (!restored) {
+        return Error{"The restore failed: " + restored.error().description +
+                     ". Restoring the same backup again finishes it; until then, files whose names end in "
+                     "\".pre-restore-backup\" hold what was there before."};
+    }
+    MainQueue::sync([this] { m_notifications.post(kReloadApplicationsAfterBackupRestore); });
     return restored;
 }
 

@@ -5,6 +5,7 @@
 #include "backups/BackupFolder.h"
 #include "backups/BackupKey.h"
 #include "backups/BackupRestore.h"
+#include "backups/BackupSummary.h"
 #include "backups/DockCleaning.h"
 #include "backups/LaunchpadCleaning.h"
 #include "backups/LiveStores.h"
@@ -67,6 +68,8 @@ public:
     /// The oldest first.
     std::vector<MacPath> listBackups() const;
     std::vector<BackupListItem> listItems() const;
+    /// The same, with a sentence where the folder, or a backup in it, cannot be looked at.
+    Result<std::vector<BackupListItem>> readItems() const;
 
     /// The backup of this name, with or without its extension. The error is a sentence; so it is for a name
     /// that could lead out of the folder.
@@ -77,6 +80,10 @@ public:
 
     /// What a backup holds, checked as a restore checks it.
     BackupReading readBackup(const MacPath& backup) const;
+
+    /// What stands where now, as a backup would hold it: to be looked at. Makes no file, so that it may run
+    /// beside a program that takes a snapshot. The error is a sentence.
+    Result<LayoutSummary> summaryOfLiveStores();
 
     /// Puts a backup back. The live state goes into a snapshot of its own first, unless its stores are missing
     /// or damaged; when that snapshot cannot be taken for another reason, nothing is changed. The caller

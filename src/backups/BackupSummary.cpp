@@ -23,17 +23,20 @@ std::optional<LayoutSummary::Tile> summaryOf(plist::Value& tile) {
 } // namespace
 
 Result<LayoutSummary> summaryOf(const BackupContents& contents) {
-    LayoutSummary summary;
     auto database = sqlite::openCopy(contents.launchpadDatabase);
     if (!database)
         return Error{"The Launchpad database cannot be read: " + database.error().description + "."};
-    auto layout = readLaunchpadLayout(*database);
+    return summaryOf(contents.dockPlist, *database);
+}
+
+Result<LayoutSummary> summaryOf(ByteView dockPlist, sqlite::Connection& launchpadDatabase) {
+    LayoutSummary summary;
+    auto layout = readLaunchpadLayout(launchpadDatabase);
     if (!layout)
-        return Error{"The Launchpad database is not one that can be understood: " + database->lastError() +
-                     "."};
+        return Error{"The Launchpad database cannot be read: " + launchpadDatabase.lastError() + "."};
     summary.launchpad = std::move(*layout);
 
-    auto preferences = plist::parse(contents.dockPlist);
+    auto preferences = plist::parse(dockPlist);
     if (!preferences)
         return Error{"The Dock's preferences cannot be read: " + preferences.error().description + "."};
     for (const char* part : {"persistent-apps", "persistent-others"}) {

@@ -22,8 +22,11 @@ struct LayoutSummary {
     std::vector<Tile> dock; ///< in Dock order
 };
 
-/// Reads a backup's contents, or the live stores as a backup would hold them. The error is a sentence.
+/// Reads a backup's contents. The error is a sentence.
 Result<LayoutSummary> summaryOf(const BackupContents& contents);
+
+/// The same of a database that is open.
+Result<LayoutSummary> summaryOf(ByteView dockPlist, sqlite::Connection& launchpadDatabase);
 
 /// How one layout becomes the other.
 struct LayoutDifferences {

@@ -98,6 +98,13 @@ Bytes LaunchpadCleaning::clean(Bytes database) {
     return cleaned->any() ? std::move(*result) : database;
 }
 
+bool LaunchpadCleaning::cleanInPlace(sqlite::Connection& copy) {
+    if (!copy.disableTriggers())
+        return false;
+    sqlite::Transaction change(copy, "BEGIN");
+    return cleanRows(copy, m_mac.bookmarks, m_settings, m_fonts) && change.commit();
+}
+
 void LaunchpadCleaning::removeLeftovers() {
     if (const Status removed = TemporaryDatabase::remove(m_mac, m_temporaryFile); !removed)
         log("⚠️ Could not remove " + m_temporaryFile.string() + ": " + removed.error().description);

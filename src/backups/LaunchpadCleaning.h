@@ -6,6 +6,10 @@
 
 namespace tavrik {
 
+namespace sqlite {
+class Connection;
+}
+
 class FontReplacer;
 class SettingsManager;
 struct Mac;
@@ -25,6 +29,10 @@ public:
 
     /// Never fails: on any fault the answer is the input, unchanged, and log lines say why.
     Bytes clean(Bytes database);
+
+    /// Cleans a copy in memory, to be looked at: makes no file, so that it may run beside another program's
+    /// cleaning. False on any fault, the copy as it was.
+    [[nodiscard]] bool cleanInPlace(sqlite::Connection& copy);
 
     /// Removes the temporary file and what SQLite may have left beside it; fine when there is none.
     void removeLeftovers();

@@ -22,13 +22,12 @@ struct Places {
 
 LiveStoresFault notFound(const std::string& store, const MacPath& file) {
     log("⚠️ " + store + " not found at: " + file.string());
-    return {.error = {"No backup was made: there is no " + store + " at " + file.string() + "."},
-            .isNothingToKeep = true};
+    return {.error = {"There is no " + store + " at " + file.string() + "."}, .isNothingToKeep = true};
 }
 
 LiveStoresFault failed(const std::string& reason, bool isNothingToKeep = false) {
     log("❌ Backup creation failed: " + reason);
-    return {.error = {"No backup was made: " + reason + "."}, .isNothingToKeep = isNothingToKeep};
+    return {.error = {reason + "."}, .isNothingToKeep = isNothingToKeep};
 }
 
 LiveStoresFault damaged(const Places& places, BackupFault fault) {
