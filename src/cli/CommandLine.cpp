@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "cli/BackupCommands.h"
 #include "cli/FontCommands.h"
 #include "cli/IconCommands.h"
 #include "cli/ListCommands.h"
@@ -28,6 +29,19 @@ std::string mustBeIndexOrNone(const std::string& index) {
     return wrong.empty() || index == IconIndexCommand::kNone
                ? std::string()
                : wrong + ", or none for the application's own icon";
+}
+
+std::string mustBeCount(const std::string& count) {
+    constexpr std::size_t kMostDigits = 9;
+    const bool isNumber = !count.empty() && count.size() <= kMostDigits &&
+                          count.find_first_not_of("0123456789") == std::string::npos;
+    return isNumber && count.find_first_not_of('0') != std::string::npos
+               ? std::string()
+               : "the number of backups to keep is 1 or more";
+}
+
+void addBackupName(CLI::App& command, std::string& name) {
+    command.add_option("NAME", name, "As \"backup list\" shows it")->required();
 }
 
 void addBundleID(CLI::App& command, std::string& bundleID) {
@@ -68,6 +82,7 @@ CommandLine::CommandLine()
     declareFonts();
     declareStaging();
     declareWrappers();
+    declareBackups();
     declarePractice();
 }
 
@@ -149,6 +164,33 @@ void CommandLine::declareWrappers() {
     WrapperListCommand& list =
         add<WrapperListCommand>(wrapper, "list", "List the restyled applications", command);
     addJson(*command, list.json);
+}
+
+void CommandLine::declareBackups() {
+    CLI::App* command = nullptr;
+    CLI::App& backup = *m_parser.add_subcommand("backup", "Snapshots of Launchpad and the Dock");
+    backup.require_subcommand(1);
+    add<BackupCreateCommand>(backup, "create", "Take a snapshot now", command);
+    BackupListCommand& list = add<BackupListCommand>(backup, "list", "List the backups", command);
+    addJson(*command, list.json);
+
+    BackupShowCommand& show =
+        add<BackupShowCommand>(backup, "show", "Tell what a backup holds, and what has changed since", command);
+    addBackupName(*command, show.name);
+    addJson(*command, show.json);
+
+    BackupVerifyCommand& verify =
+        add<BackupVerifyCommand>(backup, "verify", "Check that backups could be restored", command);
+    CLI::Option* named = command->add_option("NAME", verify.name, "As \"backup list\" shows it; without, all");
+    command->add_flag_callback("--all", [] {}, "Check all of them")->excludes(named);
+    command->parse_complete_callback([&verify, named] { verify.isNamed = named->count() > 0; });
+
+    BackupRestoreCommand& restore =
+        add<BackupRestoreCommand>(backup, "restore", "Put Launchpad and the Dock back", command);
+    addBackupName(*command, restore.name);
+    BackupKeepCommand& keep = add<BackupKeepCommand>(
+        backup, "keep", "Set how many dated backups are kept; the Original State always is", command);
+    command->add_option("N", keep.count, "1 or more")->required()->check(mustBeCount);
 }
 
 void CommandLine::declarePractice() {

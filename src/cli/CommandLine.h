@@ -27,6 +27,7 @@ private:
     void declareFonts();
     void declareStaging();
     void declareWrappers();
+    void declareBackups();
     void declarePractice();
 
     template<typename T, typename... Arguments>

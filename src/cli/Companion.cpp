@@ -34,6 +34,8 @@ ExitCode Companion::open(Access access) {
     onMain([this] { m_managers.emplace(m_host->mac()); });
     if (!m_lock)
         m_managers->settings.setReadOnly();
+    else if (access == Access::writing)
+        m_managers->backups.removeLeftovers();
     return ExitCode::done;
 }
 

@@ -1,6 +1,7 @@
 #include "cli/Json.h"
 
 #include <QJsonDocument>
+#include <QUrl>
 
 namespace tavrik {
 
@@ -38,6 +39,82 @@ QJsonArray texts(const Texts& list) {
     for (const std::string& entry : list)
         array.append(text(entry));
     return array;
+}
+
+QJsonObject object(const BackupListItem& backup) {
+    return {
+        {QLatin1String("id"), text(backup.id)},
+        {QLatin1String("url"), QUrl::fromLocalFile(key(backup.url.string())).toString(QUrl::FullyEncoded)},
+        {QLatin1String("date"), text(isoText(backup.date))},
+        {QLatin1String("sizeInKB"), static_cast<qint64>(backup.sizeInKB)},
+    };
+}
+
+QJsonArray objects(const std::vector<LayoutSummary::Tile>& tiles) {
+    QJsonArray array;
+    for (const LayoutSummary::Tile& tile : tiles) {
+        array.append(QJsonObject{
+            {QLatin1String("label"), text(tile.label)},
+            {QLatin1String("bundleID"), text(tile.bundleID)},
+        });
+    }
+    return array;
+}
+
+QJsonObject object(const LaunchpadLayout::Application& app) {
+    return {
+        {QLatin1String("rowID"), number(app.rowID)},
+        {QLatin1String("title"), text(app.title)},
+        {QLatin1String("bundleID"), text(app.bundleID)},
+        {QLatin1String("isHidden"), app.isHidden},
+    };
+}
+
+/// Pages of applications, or of applications and folders.
+template<typename Item>
+QJsonArray pages(const std::vector<std::vector<Item>>& list);
+
+QJsonObject object(const LaunchpadLayout::Folder& folder) {
+    return {
+        {QLatin1String("rowID"), number(folder.rowID)},
+        {QLatin1String("title"), text(folder.title)},
+        {QLatin1String("pages"), pages(folder.pages)},
+    };
+}
+
+QJsonObject object(const LaunchpadLayout::Item& item) {
+    return std::visit([](const auto& one) { return object(one); }, item);
+}
+
+template<typename Item>
+QJsonArray pages(const std::vector<std::vector<Item>>& list) {
+    QJsonArray array;
+    for (const std::vector<Item>& page : list) {
+        QJsonArray items;
+        for (const Item& item : page)
+            items.append(object(item));
+        array.append(items);
+    }
+    return array;
+}
+
+QJsonObject object(const LayoutDifferences& differences) {
+    QJsonArray moved;
+    for (const LayoutDifferences::Move& move : differences.moved) {
+        moved.append(QJsonObject{
+            {QLatin1String("name"), text(move.name)},
+            {QLatin1String("from"), text(move.from)},
+            {QLatin1String("to"), text(move.to)},
+        });
+    }
+    return {
+        {QLatin1String("onlyBefore"), texts(differences.onlyBefore)},
+        {QLatin1String("onlyAfter"), texts(differences.onlyAfter)},
+        {QLatin1String("moved"), moved},
+        {QLatin1String("tilesOnlyBefore"), texts(differences.tilesOnlyBefore)},
+        {QLatin1String("tilesOnlyAfter"), texts(differences.tilesOnlyAfter)},
+        {QLatin1String("isDockReordered"), differences.isDockReordered},
+    };
 }
 
 std::string plainText(const QJsonDocument& document) {
@@ -151,6 +228,23 @@ QJsonArray toJson(const FontReplacer& fonts, const std::string& preview) {
         });
     }
     return array;
+}
+
+QJsonArray toJson(const std::vector<BackupListItem>& backups) {
+    QJsonArray array;
+    for (const BackupListItem& backup : backups)
+        array.append(object(backup));
+    return array;
+}
+
+QJsonObject toJson(const BackupListItem& backup, const LayoutSummary& layout,
+                   const std::optional<LayoutDifferences>& differences) {
+    QJsonObject json = object(backup);
+    json.insert(QLatin1String("launchpad"),
+                QJsonObject{{QLatin1String("pages"), pages(layout.launchpad.pages)}});
+    json.insert(QLatin1String("dock"), objects(layout.dock));
+    json.insert(QLatin1String("differences"), differences ? object(*differences) : QJsonValue());
+    return json;
 }
 
 std::string jsonText(const QJsonArray& array) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "backups/BackupManager.h"
+#include "backups/BackupSummary.h"
 #include "changes/IconRow.h"
 #include "changes/StagedChanges.h"
 #include "fonts/FontReplacer.h"
@@ -32,6 +34,13 @@ QJsonObject toJson(const StagedChanges& staged, const std::optional<Date>& times
 
 /// The styles by "name", each with the "preview": the text written in it, or its name when that is empty.
 QJsonArray toJson(const FontReplacer& fonts, const std::string& preview);
+
+/// With "url" as a file URL.
+QJsonArray toJson(const std::vector<BackupListItem>& backups);
+/// The item with what it holds, "launchpad" and "dock", and the "differences" of the present to it; null when
+/// those are not known. A folder is told from an application by its "pages".
+QJsonObject toJson(const BackupListItem& backup, const LayoutSummary& layout,
+                   const std::optional<LayoutDifferences>& differences);
 
 std::string jsonText(const QJsonArray& array);
 std::string jsonText(const QJsonObject& object);

@@ -13,6 +13,7 @@ using TwoAtOnce = RunningCompanion;
 TEST_F(TwoAtOnce, TheSecondLooksButChangesNothingAndSaysWhoIsFirst) {
     const std::string green = picture("green.png", Qt::green);
     run({"icon", "add", kAtlas, green});
+    run({"backup", "create"});
     practice::PracticeMac practice(root);
     const auto window = SupportFolderLock::take(practice.mac(), kSupport, "Tavrik");
     ASSERT_TRUE(window) << window.error().description;
@@ -29,6 +30,9 @@ TEST_F(TwoAtOnce, TheSecondLooksButChangesNothingAndSaysWhoIsFirst) {
                                  {"font", "set", "Fullwidth"},
                                  {"font", "reset"},
                                  {"discard"},
+                                 {"backup", "create"},
+                                 {"backup", "restore", "Original State"},
+                                 {"backup", "keep", "5"},
                                  {"recover"}};
     for (const Arguments& arguments : writing)
         EXPECT_THAT(run(arguments, 3).errors, HasSubstr(first));
@@ -38,7 +42,10 @@ TEST_F(TwoAtOnce, TheSecondLooksButChangesNothingAndSaysWhoIsFirst) {
                                                          {{"practice", "where"}, "PracticeMac"},
                                                          {{"status"}, "Atlas: 1 new"},
                                                          {{"icon", "list", kAtlas}, "icon_0.png"},
-                                                         {{"font", "show"}, "plain text"}};
+                                                         {{"font", "show"}, "plain text"},
+                                                         {{"backup", "list"}, "Original State"},
+                                                         {{"backup", "verify"}, "good"},
+                                                         {{"backup", "show", "Original State"}, "Nothing has"}};
     for (const auto& [arguments, shown] : looking) {
         const ToolResult result = run(arguments);
         EXPECT_THAT(result.output, HasSubstr(shown));

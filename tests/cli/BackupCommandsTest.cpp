@@ -1,0 +1,217 @@
+#include "RunningCompanion.h"
+#include "backups/BackupArchive.h"
+#include "backups/BackupContainer.h"
+#include "platform/Mac.h"
+#include "platform/PathRules.h"
+#include "platform/Sqlite.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PracticeMac.h"
+#include "practice/dock/Dock.h"
+
+using namespace tavrik;
+using namespace tavrik::test;
+using namespace testing;
+
+namespace {
+
+const MacPath kBackups = kSupport / "Backups";
+const MacPath kOriginal = kBackups / "Original State.encrypted";
+const MacPath kDatabase = launchpadDatabasePath(practice::kTemporaryFolder);
+const MacPath kDockPlist = dockPreferencesPath(practice::kHome);
+
+class Backups : public RunningCompanion {
+protected:
+    Backups() { run({"backup", "create"}); }
+
+    std::string id(int place) {
+        return json({"backup", "list"})[place][QLatin1String("id")].toString().toStdString();
+    }
+
+    sqlite::Connection database() {
+        return std::move(*sqlite::Connection::open(root / kDatabase.string(), sqlite::OpenMode::readWrite));
+    }
+
+    /// Every item at its place, with the title and the identifier of an application.
+    std::vector<std::string> rows() {
+        auto open = database();
+        auto select = open.prepare("SELECT concat FROM (SELECT i.rowid AS row, i.rowid || ' ' || "
+                                   "ifnull(i.flags, '-') || ' ' || i.parent_id "
+                                   "|| ' ' || i.ordering || ' ' || ifnull(a.title || a.bundleid, '') AS concat "
+                                   "FROM items i LEFT JOIN apps a ON a.item_id = i.rowid) ORDER BY row");
+        std::vector<std::string> found;
+        while (select.step() == sqlite::Step::row)
+            found.push_back(*select.text(0));
+        return found;
+    }
+
+    QImage drawn() {
+        const std::string file = (own.path() / "drawn.png").string();
+        run({"picture", file});
+        return QImage(QString::fromStdString(file));
+    }
+};
+
+} // namespace
+
+TEST_F(Backups, LeadBackToWhatWasThereAndToWhatWasThereBeforeThat) {
+    ASSERT_TRUE(practice::writeDockBehaviour(root, {.restartDelay = 0.1, .indexDelay = 0.2, .indexes = true}));
+    const auto shown = [&] { return run({"backup", "show", "Original State.encrypted"}).output; };
+    EXPECT_THAT(shown(), AllOf(HasSubstr("[Utilities]: Terminal, "), HasSubstr("\nDock: Launchpad, Safari, "),
+                               HasSubstr("Nothing has changed.")));
+    const std::vector<std::string> rowsBefore = rows();
+    const QImage before = drawn();
+
+    run({"wrapper", "create", kAtlas, picture("pink.png", QColor(255, 0, 200))});
+    EXPECT_NE(drawn(), before);
+    EXPECT_THAT(shown(), HasSubstr("Nothing has changed.")) << "a restyled application is none that moved";
+    ASSERT_TRUE(database().execute("UPDATE dbinfo SET value='1'; UPDATE items SET ordering = 99, parent_id = "
+                                   "(SELECT max(rowid) FROM items "
+                                   "WHERE type=3 AND parent_id=1) WHERE rowid = (SELECT item_id FROM apps "
+                                   "WHERE bundleid='com.apple.mail'); "
+                                   "UPDATE dbinfo SET value='0'"));
+    EXPECT_THAT(shown(), EndsWith(":\nMail moved from page 1 to page 3.\n"));
+
+    run({"font", "set", "Fullwidth"});
+    const ToolResult restored = run({"backup", "restore", "Original State"});
+    const std::string undo = id(0);
+    EXPECT_THAT(restored.output, AllOf(HasSubstr("✅ Backup restored successfully\n"),
+                                       HasSubstr("\"tavrikctl backup restore " + undo + "\" goes back to it"),
+                                       HasSubstr("What was staged is dropped.")));
+    EXPECT_EQ(rows(), rowsBefore);
+    EXPECT_EQ(drawn(), before);
+    EXPECT_THAT(run({"status"}).output, HasSubstr("Nothing is staged."));
+    EXPECT_EQ(json({"wrapper", "list"}), QJsonDocument(QJsonArray()));
+    EXPECT_THAT(*volume.list(wrapperFolder(practice::kHome)), IsEmpty());
+
+    run({"backup", "restore", undo});
+    EXPECT_THAT(shown(), EndsWith(":\nMail moved from page 1 to page 3.\n"));
+}
+
+TEST_F(Backups, AreListedAndKeptAsManyAsWanted) {
+    const MacPath leftover = MacPath(practice::kTemporaryFolder) / "launchpad_temp.db";
+    ASSERT_TRUE(volume.write(leftover, bytesOf("plain")));
+    run({"backup", "create"});
+    EXPECT_FALSE(volume.exists(leftover));
+    run({"backup", "create"});
+    const QJsonArray backups = json({"backup", "list"}).array();
+    ASSERT_EQ(backups.size(), 3);
+    EXPECT_GT(id(0), id(1));
+    EXPECT_EQ(backups[2].toObject().keys().join(u' ').toStdString(), "date id sizeInKB url");
+    EXPECT_NEAR(backups[2][QLatin1String("sizeInKB")].toDouble(),
+                static_cast<double>(volume.attributes(kOriginal)->size) / 1000, 1);
+    EXPECT_EQ(backups[2][QLatin1String("url")].toString(),
+              QStringLiteral("file:///Users/practice/Library/Application%20Support/com.tavrik.Tavrik/Backups/"
+                             "Original%20State.encrypted"));
+    EXPECT_THAT(run({"backup", "list"}).output,
+                ContainsRegex("Original State +[0-9: -]+ [0-9]+ KB +kept for good\n$"));
+    EXPECT_THAT(json({"backup", "show", id(0)}).object().keys().join(u' ').toStdString(),
+                "date differences dock id launchpad sizeInKB url");
+
+    EXPECT_THAT(run({"backup", "keep", "1"}).output, HasSubstr("the next snapshot deletes 2 backups."));
+    EXPECT_EQ(json({"backup", "list"}).array().size(), 3);
+    run({"backup", "create"});
+    EXPECT_EQ(json({"backup", "list"}).array().size(), 2);
+    EXPECT_EQ(id(1), "Original State");
+}
+
+TEST_F(Backups, AreNamedPlainlyAndSoundOrNothingIsTouched) {
+    const Bytes good = *volume.read(kOriginal);
+    Bytes flipped = good;
+    flipped[flipped.size() / 2] ^= 1;
+    practice::PracticeMac practice(root);
+    const BackupContainer container(practice.mac().machine, practice.mac().random);
+    const auto sealed = [&](const ArchiveMembers& members) { return *container.seal(*createArchive(members)); };
+    const Bytes text(600, '?');
+    const std::pair<const char*, Bytes> files[] = {
+        {"short", Bytes(good.begin(), good.begin() + 27)},
+        {"flipped", flipped},
+        {"text", *container.seal(text)},
+        {"no-dock", sealed({{kLaunchpadMember, *volume.read(kDatabase)}})},
+        {"bad-dock", sealed({{kDockMember, text}, {kLaunchpadMember, *volume.read(kDatabase)}})},
+        {"no-database", sealed({{kDockMember, *volume.read(kDockPlist)}})},
+        {"bad-database", sealed({{kDockMember, *volume.read(kDockPlist)}, {kLaunchpadMember, text}})},
+    };
+    for (const auto& [name, content] : files)
+        ASSERT_TRUE(volume.create(kBackups / (std::string(name) + ".encrypted"), content));
+    ASSERT_TRUE(volume.write(kSupport / "outside.encrypted", good));
+
+    const char* const kNoName = "That cannot be the name of a backup.";
+
+    const struct {
+        std::string name;
+        const char* sentence;
+        const char* line; ///< that a restore logs
+    } cases[] = {
+        {"short", "damaged, cut short or was made on another Mac", "❌ Failed to decrypt backup\n"},
+        {"flipped", "damaged, cut short or was made on another Mac", "Failed to decrypt backup: "},
+        {"text", "is no archive", "❌ Failed to extract backup archive\n"},
+        {"no-dock", "holds no Dock preferences", "❌ Dock plist not found in backup\n"},
+        {"bad-dock", "The Dock preferences in the backup are damaged", "❌ Failed to restore backup files: "},
+        {"no-database", "holds no Launchpad database", "❌ Launchpad database not found in backup\n"},
+        {"bad-database", "The Launchpad database in the backup is", "❌ Failed to restore backup files: "},
+        {"original state", "Did you mean \"Original State\"?", ""},
+        {"Thursday", "\"tavrikctl backup list\" shows what there is.", ""},
+        {"../outside", kNoName, ""},
+        {kOriginal.string(), kNoName, ""},
+        {"", kNoName, ""},
+        {".", kNoName, ""},
+        {"..", kNoName, ""},
+        {"x\ny", kNoName, ""},
+        {std::string(256, 'x'), kNoName, ""},
+    };
+
+    const FileTree before = treeOf(root);
+    for (const auto& [name, sentence, line] : cases) {
+        EXPECT_THAT(run({"backup", "verify", name}, 1).errors, HasSubstr(sentence));
+        EXPECT_THAT(run({"backup", "show", name}, 1).errors, HasSubstr(sentence));
+        const ToolResult restored = run({"backup", "restore", name}, 1);
+        EXPECT_THAT(restored.output, HasSubstr(line)) << name;
+        EXPECT_THAT(restored.errors, HasSubstr(sentence));
+    }
+    const ToolResult all = run({"backup", "verify"}, 1);
+    EXPECT_THAT(all.output, HasSubstr("Original State: good.\n"));
+    EXPECT_THAT(all.errors, AllOf(HasSubstr("\nshort: The backup is"), HasSubstr("bad-dock: The Dock")));
+
+    for (const char* number : {"0", "00", "-1", "1.5", "", "99999999999999999999"})
+        EXPECT_THAT(run({"backup", "keep", number}, 2).errors, HasSubstr("1 or more"));
+    run({"backup", "verify", "--all", "text"}, 2);
+    run({"backup"}, 2);
+    EXPECT_THAT(differences(before, treeOf(root)), IsEmpty());
+}
+
+TEST_F(Backups, AreOfThisMacAndOfStoresThatAreWhole) {
+    // The machine's number, and what its owner would miss, are gone in turn.
+    const MacPath& serial = practice::kSerialNumberFile;
+
+    const struct {
+        MacPath file;
+        const char* content;
+        int show;
+        int restore;
+        const char* told;
+    } cases[] = {
+        {serial, "C02OTHER1234", 1, 1, "❌ Failed to decrypt backup\n"},
+        {serial, "\n", 1, 1, "Failed to get device serial\n"},
+        {kDockPlist, "text", 0, 0, "could not be backed up: its files were missing or damaged."},
+        {kDatabase, "text", 0, 0, "could not be backed up: its files were missing or damaged."},
+    };
+
+    for (const auto& [file, content, show, restore, told] : cases) {
+        const Bytes whole = *volume.read(file);
+        ASSERT_TRUE(volume.write(file, bytesOf(content)));
+        const FileTree before = treeOf(root);
+        const ToolResult shown = run({"backup", "show", "Original State"}, show);
+        EXPECT_EQ(show == 0, shown.output.find("Page 1: Safari") != std::string::npos);
+        EXPECT_THAT(shown.errors,
+                    HasSubstr(show == 0 ? "What has changed since cannot be told." : "another Mac"));
+        if (file != serial || *content == '\n')
+            run({"backup", "create"}, 1);
+        EXPECT_THAT(differences(before, treeOf(root)), IsEmpty());
+        EXPECT_THAT(run({"backup", "restore", "Original State"}, restore).output, HasSubstr(told));
+        if (file == serial) {
+            ASSERT_TRUE(volume.write(file, whole));
+        }
+        EXPECT_THAT(run({"backup", "show", "Original State"}).output, HasSubstr("Nothing has changed."));
+    }
+    EXPECT_EQ(json({"backup", "list"}).array().size(), 1);
+}
