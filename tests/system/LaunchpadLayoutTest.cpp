@@ -2,8 +2,6 @@
 
 #include "platform/Sqlite.h"
 #include "practice/furnish/LaunchpadSchema.h"
-#include "practice/furnish/SampleApps.h"
-#include "support/practice/PracticeVolume.h"
 
 #include <gtest/gtest.h>
 
@@ -69,37 +67,6 @@ TEST_F(Layout, IsNothingWithoutTheTablesAndEmptyWithoutRows) {
     }
     EXPECT_EQ(readLaunchpadLayout(*m_database), LaunchpadLayout());
     EXPECT_FALSE(m_database->inTransaction());
-}
-
-TEST(FurnishedLayout, HasEveryApplicationAtItsPlaceInTheTableOfSamples) {
-    using Place = std::pair<int, std::string>; // page and folder
-    std::map<std::string, Place> expected;
-    for (const practice::SampleApp& app : practice::sampleApps()) {
-        if (app.page != 0)
-            expected[app.name] = {app.page, app.folder};
-    }
-    const test::PracticeVolume volume;
-    auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readOnly);
-    ASSERT_TRUE(database);
-    const auto layout = readLaunchpadLayout(*database);
-    ASSERT_TRUE(layout);
-    std::map<std::string, Place> found;
-    for (std::size_t page = 0; page < layout->pages.size(); ++page) {
-        for (const LaunchpadLayout::Item& item : layout->pages[page]) {
-            const int number = static_cast<int>(page) + 1;
-            if (const auto* app = std::get_if<Application>(&item)) {
-                found[app->title] = {number, ""};
-            } else {
-                const auto& folder = std::get<Folder>(item);
-                for (const auto& folderPage : folder.pages) {
-                    for (const Application& inFolder : folderPage)
-                        found[inFolder.title] = {number, folder.title};
-                }
-            }
-        }
-    }
-    for (const auto& [name, place] : expected)
-        EXPECT_EQ(found[name], place) << name;
 }
 
 } // namespace tavrik
