@@ -40,12 +40,6 @@ Result<std::optional<Bytes>> readIfThere(const FileManager& files, const MacPath
     return content.error().code == ENOENT ? Result<std::optional<Bytes>>(std::nullopt) : content.error();
 }
 
-/// A copy of ours is no link; what else bears its name counts as none.
-bool isPlainFile(const FileManager& files, const MacPath& path) {
-    const auto present = files.attributes(path, Links::dontFollow);
-    return !present || present->type == FileType::file;
-}
-
 bool isGoodDockPlist(const Bytes& dockPlist, const BackupContents& restored) {
     return std::holds_alternative<BackupContents>(checkContents({dockPlist, restored.launchpadDatabase}));
 }
@@ -54,8 +48,8 @@ bool isGoodDatabase(const Bytes& database, const BackupContents& restored) {
     return std::holds_alternative<BackupContents>(checkContents({restored.dockPlist, database}));
 }
 
-/// Whether nobody has changed a row: opening a database for a write-ahead log alone changes a few bytes of its
-/// header, namely the versions of format and library, and the counter of changes.
+/// Whether nobody has changed a row. Copying a database, or opening it for a write-ahead log, changes a few
+/// bytes of its header: the versions of format and library, and the counter of changes.
 bool isSameDatabase(Bytes first, Bytes second) {
     constexpr std::pair<std::size_t, std::size_t> kVolatile[] = {{18, 20}, {24, 28}, {92, 100}};
     constexpr std::size_t kHeaderSize = 100;
@@ -116,7 +110,7 @@ SafetyCopies::Wanted SafetyCopies::wantedOfDock(const BackupContents& restored) 
         const auto copy = readIfThere(m_mac.files, m_dockCopy);
         if (!copy)
             return copy.error();
-        if (*copy && isPlainFile(m_mac.files, m_dockCopy) && isGoodDockPlist(**copy, restored)) {
+        if (*copy && isGoodDockPlist(**copy, restored)) {
             log("ℹ️ Kept the dock safety backup of an earlier restore");
             return std::optional<Content>();
         }
@@ -136,7 +130,7 @@ SafetyCopies::Wanted SafetyCopies::wantedOfDatabase(const BackupContents& restor
         const auto copy = readDatabase(m_databaseCopy);
         if (!copy)
             return copy.error();
-        if (*copy && isPlainFile(m_mac.files, m_databaseCopy) && isGoodDatabase((*copy)->file, restored)) {
+        if (*copy && isGoodDatabase((*copy)->file, restored)) {
             log("ℹ️ Kept the db safety backup of an earlier restore");
             return std::optional<Content>();
         }

@@ -109,9 +109,9 @@ protected:
     }
 
     /// A restore that fails when it is about to make this file.
-    void failAt(const MacPath& file) {
+    void failAt(const MacPath& file, const BackupContents& contents = restyled().plain) {
         files.failOn("create", file, ENOSPC);
-        EXPECT_FALSE(putBack(known.plain));
+        EXPECT_FALSE(putBack(contents));
         files.failNothing();
         managers.emplace(mac);
     }
