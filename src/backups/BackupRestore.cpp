@@ -63,6 +63,7 @@ Status BackupRestore::run(const BackupContents& contents) {
         log("ℹ️ Safety backup cleanup: " + removed.error().description);
     log("✅ Backup restored successfully");
     clearSettings(contents);
+    MainQueue::sync([this] { m_pendingChanges.noteRestored(); });
     return Done{};
 }
 

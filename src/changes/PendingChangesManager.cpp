@@ -74,8 +74,7 @@ PendingChangesManager::PendingChangesManager(Mac& mac, SettingsManager& settings
     log("📁 Pending icons location: " + pendingIconsBaseURL().string());
     if (m_file.exists())
         log("⚠️ Found existing recovery file from previous session!");
-    if (const auto font = m_settings.getCurrentFontState())
-        m_activeFont = font->fontName;
+    readActiveFont();
     m_isInitializing = false;
 }
 

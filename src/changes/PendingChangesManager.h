@@ -130,6 +130,10 @@ public:
     /// disk.
     void clearAllPendingChanges();
 
+    /// A backup took the place of what was applied: the styled alphabet in effect and the icons in use are read
+    /// anew.
+    void noteRestored();
+
 private:
     bool isSavedIconOf(const MacPath& path, const std::string& bundleID) const;
     void recordIcon(const std::string& bundleID, const MacPath& icon);
@@ -139,6 +143,7 @@ private:
                   const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
     bool updatePendingChangesState();
     void updateFlags();
+    void readActiveFont();
     void finishTransfer();
     bool takeOverFile();
     enum class PendingIcons { keep, cleanUp };

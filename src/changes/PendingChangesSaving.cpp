@@ -97,8 +97,7 @@ bool PendingChangesManager::takeOverFile() {
 void PendingChangesManager::noteApplied() {
     assertOnMainThread("Noting an apply");
     m_applied.forget();
-    const auto font = m_settings.getCurrentFontState();
-    m_activeFont = font ? std::optional(font->fontName) : std::nullopt;
+    readActiveFont();
 
     StagedChanges left;
     for (const auto& [bundleID, change] : m_staged.pendingChanges) {
@@ -132,6 +131,18 @@ void PendingChangesManager::clearAllPendingChanges() {
         m_transfer.abandon();
     m_applied.forget();
     clear(PendingIcons::cleanUp);
+}
+
+void PendingChangesManager::noteRestored() {
+    assertOnMainThread("Noting a restore");
+    m_applied.forget();
+    readActiveFont();
+    m_notifications.post(kPendingChangesUpdated);
+}
+
+void PendingChangesManager::readActiveFont() {
+    const auto font = m_settings.getCurrentFontState();
+    m_activeFont = font ? std::optional(font->fontName) : std::nullopt;
 }
 
 void PendingChangesManager::clear(PendingIcons icons) {

@@ -42,6 +42,7 @@ struct RestyledMac : VirtualMac {
             EXPECT_TRUE(managers->wrappers.createWrapper(app, icon));
         }
         managers->fonts.applyFont("Small Caps");
+        managers->pendingChanges.noteApplied();
         managers->pendingChanges.setPendingFont("Mathematical Bold");
     }
 
