@@ -32,10 +32,10 @@ inline constexpr std::uint64_t kMostThemePixels = 8ull << 30; ///< of all icons 
 Result<Bytes> writeThemeFile(const ThemePackage& package);
 
 /// All of the package, checked against its manifest and decoded once to see that each icon is a picture of a
-/// size that is taken in; or an error in a sentence. Links, folders besides "Icons", names that lead elsewhere,
-/// entries that the manifest does not list or that are missing, wrong hashes, encrypted entries, and whatever
-/// is over a limit are refused, the last without unpacking it. `name` is what the person called the file. Pure;
-/// any thread.
+/// size that is taken in; or an error in a sentence. Refused are links, folders besides "Icons", names that
+/// lead elsewhere or are one to a Mac, entries that the manifest does not list or that are missing, wrong
+/// hashes, encrypted entries, newer formats, and whatever is over a limit, without unpacking it. `name` is what
+/// the person called the file. Pure; any thread; uses all cores, 3 ms of them for an icon of 1024 pixels.
 Result<ThemePackage> readThemeFile(ByteView file, const std::string& name);
 
 } // namespace tavrik

@@ -25,7 +25,7 @@ std::string fileNameKey(std::string_view name);
 std::uint64_t statedPixels(ByteView icon);
 
 /// Decodes the icon to see that it is a whole picture of the kind that its extension says, and not too large.
-/// Errors are sentences. Pure; any thread; some 5 ms for 1024 pixels.
+/// Errors are sentences. Pure; any thread; some 3 ms for 1024 pixels.
 Status checkThemeIcon(const std::string& fileName, ByteView content);
 
 } // namespace tavrik
