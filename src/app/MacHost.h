@@ -15,7 +15,7 @@ public:
     virtual Mac& mac() = 0;
 
     /// Makes sure that the Mac's session runs, so that the Dock indexes and comes back after a restart. A real
-    /// Mac's always does. Called before the first change; may take a second.
+    /// Mac's always does. Called before the first change that the Dock is to see; may take a second.
     virtual void startSession() = 0;
 };
 

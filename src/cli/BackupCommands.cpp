@@ -176,8 +176,9 @@ ExitCode BackupKeepCommand::run(Companion& companion) {
     settings.setBackupRetentionCount(count);
     if (settings.getBackupRetentionCount() != count)
         return companion.fail("The number could not be saved; the lines above say why.");
-    companion.say("The newest " + counted(static_cast<std::size_t>(count), "dated backup") +
-                  " are kept from now on, and the Original State for good.");
+    companion.say("From now on the newest " +
+                  (count == 1 ? "dated backup is" : std::to_string(count) + " dated backups are") +
+                  " kept, and the Original State for good.");
     const auto backups = listedBackups(companion);
     if (!backups)
         return companion.fail(backups.error().description);

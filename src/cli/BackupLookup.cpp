@@ -30,8 +30,10 @@ Result<BackupListItem> findBackup(Companion& companion, const std::string& name)
                                       : Error{"The backup \"" + name + "\" was taken away a moment ago."};
     }
     std::vector<NearName> names;
-    for (const BackupListItem& backup : *backups)
-        names.push_back({nameDistance(name, backup.id), "\"" + backup.id + "\""});
+    for (const BackupListItem& backup : *backups) {
+        const bool isBeginning = !name.empty() && backup.id.starts_with(name);
+        names.push_back({isBeginning ? 1 : nameDistance(name, backup.id), "\"" + backup.id + "\""});
+    }
     std::string hint = hintOf(std::move(names), name);
     if (hint.empty())
         hint = backups->empty() ? " There is none yet; \"tavrikctl backup create\" takes one."
