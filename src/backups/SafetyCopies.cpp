@@ -4,6 +4,7 @@
 #include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
+#include "platform/PropertyList.h"
 #include "platform/SqliteCopy.h"
 #include "platform/Volume.h"
 
@@ -40,8 +41,9 @@ Result<std::optional<Bytes>> readIfThere(const FileManager& files, const MacPath
     return content.error().code == ENOENT ? Result<std::optional<Bytes>>(std::nullopt) : content.error();
 }
 
-bool isGoodDockPlist(const Bytes& dockPlist, const BackupContents& restored) {
-    return std::holds_alternative<BackupContents>(checkContents({dockPlist, restored.launchpadDatabase}));
+bool isGoodDockPlist(ByteView dockPlist) {
+    const auto list = plist::parse(dockPlist);
+    return list && list->as<plist::Dictionary>();
 }
 
 bool isGoodDatabase(const Bytes& database, const BackupContents& restored) {
@@ -106,11 +108,11 @@ SafetyCopies::Wanted SafetyCopies::wantedOfDock(const BackupContents& restored) 
         return live.error();
     if (!*live || (*live)->empty())
         return std::optional<Content>();
-    if (**live == restored.dockPlist || !isGoodDockPlist(**live, restored)) {
+    if (**live == restored.dockPlist || !isGoodDockPlist(**live)) {
         const auto copy = readIfThere(m_mac.files, m_dockCopy);
         if (!copy)
             return copy.error();
-        if (*copy && isGoodDockPlist(**copy, restored)) {
+        if (*copy && isGoodDockPlist(**copy)) {
             log("ℹ️ Kept the dock safety backup of an earlier restore");
             return std::optional<Content>();
         }
