@@ -2,6 +2,7 @@
 #include "system/TitleOrder.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <set>
@@ -69,9 +70,8 @@ void compareLaunchpad(Applications before, Applications after, LayoutDifferences
     for (const auto& [key, added] : after)
         std::ranges::transform(added, std::back_inserter(found.onlyAfter), &Placed::name);
 
-    const auto itself = [](const std::string& name) -> const std::string& { return name; };
-    sortByTitle(found.onlyBefore, itself);
-    sortByTitle(found.onlyAfter, itself);
+    sortByTitle(found.onlyBefore, std::identity());
+    sortByTitle(found.onlyAfter, std::identity());
     sortByTitle(found.moved,
                 [](const LayoutDifferences::Move& move) -> const std::string& { return move.name; });
 }

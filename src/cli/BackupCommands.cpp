@@ -10,6 +10,7 @@
 #include "platform/Log.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace tavrik {
 

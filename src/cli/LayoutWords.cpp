@@ -54,6 +54,7 @@ std::vector<std::string> inWords(const LayoutSummary& layout) {
     if (lines.empty())
         lines.emplace_back("Launchpad shows nothing.");
     std::vector<std::string> tiles;
+    tiles.reserve(layout.dock.size());
     for (const LayoutSummary::Tile& tile : layout.dock)
         tiles.push_back(tile.label.empty() ? tile.bundleID : tile.label);
     lines.push_back(tiles.empty() ? "The Dock has no tiles." : "Dock: " + joined(tiles));
@@ -68,8 +69,10 @@ std::vector<std::string> inWords(const LayoutDifferences& since) {
     };
     add("New in Launchpad: ", since.onlyAfter);
     add("Gone from Launchpad: ", since.onlyBefore);
-    for (const auto& [name, from, to] : since.moved)
-        lines.push_back(name + " moved from " + from + " to " + to + ".");
+    for (const auto& [name, from, to] : since.moved) {
+        lines.push_back(name);
+        lines.back().append(" moved from ").append(from).append(" to ").append(to).append(".");
+    }
     add("New in the Dock: ", since.tilesOnlyAfter);
     add("Gone from the Dock: ", since.tilesOnlyBefore);
     if (since.isDockReordered)
