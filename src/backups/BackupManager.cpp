@@ -41,6 +41,7 @@ std::string restoreLine(BackupFault fault) {
 std::vector<BackupListItem> itemsOf(const std::vector<BackupFolder::Entry>& entries) {
     constexpr std::uint64_t kKilobyte = 1000;
     std::vector<BackupListItem> items;
+    items.reserve(entries.size());
     for (const BackupFolder::Entry& entry : entries)
         items.push_back({.id = entry.url.stem(),
                          .url = entry.url,
