@@ -50,8 +50,8 @@ public:
                  HiddenThemeIcons& hidden, PendingChangesManager& pendingChanges,
                  NotificationCenter& notifications);
 
-    /// Makes the folder of the themes when it is missing, and loads them. To be called once before the rest; a
-    /// program that may not write calls `loadThemes` in its place.
+    /// Makes the folder of the themes when it is missing, and loads them. To be called once before the rest, on
+    /// any thread; a program that may not write calls `loadThemes` in its place.
     void open();
 
     const MacPath& themesDirectory() const { return m_library.path(); }
@@ -119,7 +119,7 @@ private:
     ThemeLibrary m_library;
     std::vector<Theme> m_installedThemes;
     bool m_isApplyingTheme = false;
-    std::mutex m_naming; ///< held from the look at the names to the change of one; never by the main thread
+    std::mutex m_listing; ///< held from the look at the disk or the names to the change of the list
 };
 
 } // namespace tavrik

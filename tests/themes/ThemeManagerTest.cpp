@@ -5,6 +5,7 @@
 #include "platform/UserDefaults.h"
 #include "support/FileTree.h"
 #include "support/LogRecorder.h"
+#include "support/SmallMac.h"
 #include "support/practice/VirtualMac.h"
 #include "themes/ThemePreviewSettingsManager.h"
 
@@ -36,9 +37,6 @@ QImage picture(int colour) {
     return image;
 }
 
-/// Stands for a kill: nothing in the program catches it.
-struct Killed {};
-
 /// Before the Mac, whose threads use Qt too.
 struct Application {
     int argc = 1;
@@ -51,9 +49,7 @@ class ThemeManagerTest : public testing::Test, protected Application, protected 
 protected:
     ThemeManagerTest() { start(); }
 
-    /// Anew, as after a kill.
     void start() {
-        files.failNothing();
         program.emplace(mac);
         themes().open();
         log.clear();
@@ -72,20 +68,11 @@ protected:
 
     Theme create(const std::string& title) { return *themes().createTheme(title, false); }
 
-    MacPath iconOf(const Theme& theme, const std::string& fileName) {
-        return themes().library().iconsOf(theme.themeID) / fileName;
-    }
-
-    void put(const MacPath& file, const Bytes& content) {
-        ASSERT_TRUE(own.files.createFolder(file.parent()));
-        ASSERT_TRUE(own.files.write(file, content));
-    }
-
     /// A permanent icon that the settings name.
     MacPath select(const std::string& bundleID, int number, const Bytes& content) {
         MacPath icon =
             program->settings.iconCacheURL() / bundleID / ("icon_" + std::to_string(number) + ".png");
-        put(icon, content);
+        EXPECT_TRUE(own.files.createFolder(icon.parent()) && own.files.write(icon, content));
         program->settings.setSelectedIcon(bundleID, number);
         return icon;
     }
@@ -112,42 +99,39 @@ TEST_F(ThemeManagerTest, CreatesAndRenamesAndTellsNamesApartExactly) {
         EXPECT_EQ(QThread::currentThread(), application.thread());
         ++posted;
     });
-    const auto expectLine = [&](bool asExpected, const std::string& line) {
-        EXPECT_TRUE(asExpected) << line;
-        EXPECT_THAT(log.lines(), ElementsAre(line));
+    std::optional<Theme> toRename;
+    const auto expect = [&](const std::string& title, const std::string& line) {
         log.clear();
-    };
-    const auto creates = [&](const std::string& title, const std::string& line) {
-        const auto theme = run([&] { return themes().createTheme(title, false); });
-        expectLine(bool(theme) == line.starts_with("Succ"), line);
+        const bool isDone = run([&] {
+            return toRename ? bool(themes().updateTheme(*toRename, title))
+                            : bool(themes().createTheme(title, false));
+        });
+        EXPECT_EQ(isDone, line.starts_with("Successfully")) << line;
+        EXPECT_THAT(log.lines(), ElementsAre(line));
         clock.sleep(std::chrono::seconds(1));
     };
     const std::string invalid = "Theme name contains invalid characters";
     const std::string taken = "A theme with this name already exists";
-    creates("  Ocean ", "Successfully created theme: Ocean");
-    creates("\tOcean", "Error creating theme: " + taken);
-    creates("ocean", "Successfully created theme: ocean");
-    creates(".a", "Error creating theme: " + invalid);
-    creates(std::string(51, 'x'), "Error creating theme: " + invalid);
-    creates(std::string(50, 'x'), "Successfully created theme: " + std::string(50, 'x'));
-
+    expect("  Ocean ", "Successfully created theme: Ocean");
+    expect("\tOcean", "Error creating theme: " + taken);
+    expect("ocean", "Successfully created theme: ocean");
+    expect(".a", "Error creating theme: " + invalid);
+    expect(std::string(51, 'x'), "Error creating theme: " + invalid);
     const Theme ocean = themes().installedThemes().at(0);
-    const Theme stale{.themeID = ocean.themeID, .name = "stale", .createdDate = {1}};
-    const auto renames = [&](const std::string& title, const std::string& line) {
-        expectLine(bool(run([&] { return themes().updateTheme(stale, title); })) == line.starts_with("Succ"),
-                   line);
-    };
-    renames(" Sea ", "Successfully updated theme: Sea");
-    renames("Sea", "Successfully updated theme: Sea");
-    renames("ocean", "Error updating theme: " + taken);
-    renames("a:b", "Invalid theme name: a:b");
+    toRename = Theme{.themeID = ocean.themeID, .name = "stale", .createdDate = {1}};
+    expect(" Sea ", "Successfully updated theme: Sea");
+    expect("Sea", "Successfully updated theme: Sea");
+    expect("ocean", "Error updating theme: " + taken);
+    expect("a:b", "Invalid theme name: a:b");
+    log.clear();
     files.failOn("replace", {}, EIO);
     EXPECT_FALSE(themes().updateTheme(ocean, "Lake"));
     EXPECT_THAT(log.lines(), ElementsAre(StartsWith("Error updating theme: ")));
 
-    EXPECT_EQ(posted, 5);
+    EXPECT_EQ(posted, 4);
     const std::vector<Theme> listed = themes().installedThemes();
     EXPECT_EQ(listed.at(0), (Theme{ocean.themeID, "Sea", ocean.createdDate}));
+    files.failNothing();
     start();
     EXPECT_EQ(themes().installedThemes(), listed);
 }
@@ -175,42 +159,16 @@ TEST_F(ThemeManagerTest, FillsAThemeWithTheIconsThatTheSettingsName) {
     EXPECT_EQ(icons.size(), 2u);
     EXPECT_EQ(icons[kAtlas], png) << "byte for byte";
     EXPECT_EQ(png::decode(icons[kCinder]).size(), QSize(40, 20));
-    using Lines = std::vector<testing::Matcher<std::string>>;
-    const auto failed = StartsWith("Failed to save icon to theme: ");
-    EXPECT_THAT(log.lines(),
-                testing::IsSupersetOf(
-                    Lines{"Moving selected icons to theme: Mine (ID: " + theme->themeID + ")",
-                          "Moved selected icon for " + kAtlas, "Moved selected icon for " + kCinder, failed,
-                          failed, "Icon move complete. Moved 2 icons.", "Successfully created theme: Mine"}));
-}
-
-TEST_F(ThemeManagerTest, AKillWhileAThemeIsFilledLeavesWholeIconsOnly) {
-    const Bytes png = *png::encode(picture(1));
-    select(kAtlas, 0, png);
-    select(kCinder, 0, png);
-    const FileTree before = tree();
-    bool wasKilled = true;
-    for (std::size_t change = 1; wasKilled && !HasFailure(); ++change) {
-        SCOPED_TRACE("killed before change " + std::to_string(change));
-        files.setRule([&, left = change](const FileOperation& operation) mutable -> std::optional<int> {
-            if (operation.path.isInside(themes().themesDirectory()) && --left == 0)
-                throw Killed();
-            return std::nullopt;
-        });
-        wasKilled = false;
-        try {
-            ignoreFailure(themes().createTheme("Mine", true));
-        } catch (const Killed&) {
-            wasKilled = true;
-        }
-        start();
-        themes().library().removeLeftovers();
-        for (const Theme& theme : std::vector<Theme>(themes().installedThemes())) {
-            EXPECT_THAT(iconsOf(theme), testing::Each(testing::Pair(testing::_, png)));
-            EXPECT_TRUE(themes().removeTheme(theme.themeID));
-        }
-        EXPECT_THAT(differences(before, tree()), ElementsAre());
-    }
+    const MacPath folder = themes().library().folderOf(theme->themeID);
+    const auto steps = files.journal();
+    EXPECT_LT(std::ranges::find(steps, "move " + folder.string()),
+              std::ranges::find(steps, "replace " + (folder / "Icons" / (kAtlas + ".png")).string()))
+        << "the theme comes whole before its icons";
+    EXPECT_TRUE(log.has("Moving selected icons to theme: Mine (ID: " + theme->themeID + ")"));
+    EXPECT_TRUE(log.has("Moved selected icon for " + kAtlas) && log.has("Moved selected icon for " + kCinder));
+    EXPECT_TRUE(log.mentions("Failed to save icon to theme: ") &&
+                log.has("Icon move complete. Moved 2 icons."));
+    EXPECT_EQ(log.lines().back(), "Successfully created theme: Mine");
 }
 
 TEST_F(ThemeManagerTest, ADroppedPictureIsSquaredAndKeptFromTheStagedDeletionOfTheIconBefore) {
@@ -238,12 +196,13 @@ TEST_F(ThemeManagerTest, ADroppedPictureIsSquaredAndKeptFromTheStagedDeletionOfT
 }
 
 TEST_F(ThemeManagerTest, OffersWhatIsNeitherHiddenNorStagedToGo) {
+    const auto folder = [&](const Theme& theme) { return themes().library().iconsOf(theme.themeID); };
     std::vector<Theme> all;
     for (const char* title : {"plain", "hidden", "to be hidden", "icon deleted", "theme deleted"}) {
         all.push_back(create(title));
         clock.sleep(std::chrono::seconds(1));
         for (const char* extension : {".png", ".icns"})
-            put(iconOf(all.back(), kAtlas + extension), {'x'});
+            ASSERT_TRUE(own.files.create(folder(all.back()) / (kAtlas + extension), {}));
     }
     const std::string file = kAtlas + ".png";
     program->hiddenThemeIcons.hide(all[1].themeID, file);
@@ -251,7 +210,7 @@ TEST_F(ThemeManagerTest, OffersWhatIsNeitherHiddenNorStagedToGo) {
     program->pendingChanges.deleteThemeIcon(all[3].themeID, file);
     program->pendingChanges.deleteTheme(all[4].themeID);
     EXPECT_THAT(run([&] { return themes().themeIconsFor(kAtlas); }),
-                ElementsAre(iconOf(all[0], file), iconOf(all[3], kAtlas + ".icns")));
+                ElementsAre(folder(all[0]) / file, folder(all[3]) / (kAtlas + ".icns")));
     EXPECT_THAT(themes().themeIconsFor(kCinder), ElementsAre());
 
     // A theme that goes takes along what is remembered of it.
@@ -261,19 +220,22 @@ TEST_F(ThemeManagerTest, OffersWhatIsNeitherHiddenNorStagedToGo) {
     EXPECT_TRUE(themes().removeTheme(all[1].themeID));
 }
 
-TEST_F(ThemeManagerTest, LivesWithAFolderThatCannotBeMadeAndSettingsThatItDoesNotKnow) {
+TEST_F(ThemeManagerTest, SaysThatItsFolderCannotBeMade) {
     const MacPath folder = themes().themesDirectory();
-    ASSERT_TRUE(own.files.remove(folder));
-    put(folder, {'x'});
+    ASSERT_TRUE(own.files.remove(folder) && own.files.create(folder, {}));
     themes().open();
     EXPECT_THAT(log.lines(), ElementsAre(StartsWith("Error creating themes directory: "),
                                          "Themes path exists but is not a directory: " + folder.string()));
     EXPECT_FALSE(themes().createTheme("x", false));
-    ThemePreviewSettingsManager preview(own.defaults);
-    preview.setPreviewStyle(ThemePreviewStyle::grid);
-    EXPECT_EQ(preview.previewStyle(), ThemePreviewStyle::grid);
-    ASSERT_TRUE(own.defaults.set("ThemePreviewStyle", "spiral"));
-    EXPECT_EQ(preview.previewStyle(), ThemePreviewStyle::scattered);
+}
+
+TEST(ThemePreviewSettings, FallBackFromWhatTheyDoNotKnow) {
+    SmallMac mac;
+    ThemePreviewSettingsManager settings(mac.mac.defaults);
+    settings.setPreviewStyle(ThemePreviewStyle::grid);
+    EXPECT_EQ(settings.previewStyle(), ThemePreviewStyle::grid);
+    ASSERT_TRUE(mac.mac.defaults.set("ThemePreviewStyle", "spiral"));
+    EXPECT_EQ(settings.previewStyle(), ThemePreviewStyle::scattered);
 }
 
 } // namespace tavrik::test
