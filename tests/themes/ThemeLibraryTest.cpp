@@ -245,6 +245,8 @@ TEST_F(ThemeLibraryTest, ClearsAwayWhatKillsLeaveAndNothingElse) {
         put(library.path() / name, "ours");
     library.removeLeftovers();
     EXPECT_THAT(differences(before, tree()), ElementsAre());
+    mac.files.failOn("remove", library.folderOf(kDesert.themeID), EIO);
+    EXPECT_TRUE(library.remove(kDesert.themeID)) << "a folder goes file by file, so it is renamed first";
 }
 
 } // namespace tavrik::test
