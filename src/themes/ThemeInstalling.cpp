@@ -66,7 +66,7 @@ Result<Theme> ThemeManager::installTheme(const Theme& theme, const std::map<std:
         failed.code = created.error().code;
         return failed;
     }
-    loadThemes(); // in its place by its date
+    readThemes(); // in its place by its date
     return installed;
 }
 

@@ -44,7 +44,11 @@ void ThemeManager::open() {
 }
 
 void ThemeManager::loadThemes() {
-    const std::lock_guard lock(m_listing);
+    const std::lock_guard lock(m_naming);
+    readThemes();
+}
+
+void ThemeManager::readThemes() {
     std::vector<Theme> themes = m_library.load();
     // The order in which they were made, which is also that of `createTheme`.
     std::ranges::sort(themes, {},
@@ -79,7 +83,7 @@ Result<std::string> ThemeManager::freeName(const std::string& name, const std::v
 Result<Theme> ThemeManager::createTheme(const std::string& name, bool moveActiveIcons) {
     assertOffMainThread("Creating a theme");
     const auto created = [&]() -> Result<Theme> {
-        const std::lock_guard lock(m_listing);
+        const std::lock_guard lock(m_naming);
         const std::vector<Theme> others = listed();
         const auto free = freeName(name, others);
         if (!free)
@@ -104,7 +108,7 @@ Result<Theme> ThemeManager::createTheme(const std::string& name, bool moveActive
 
 Status ThemeManager::updateTheme(const Theme& theme, const std::string& newName) {
     assertOffMainThread("Renaming a theme");
-    const std::lock_guard lock(m_listing);
+    const std::lock_guard lock(m_naming);
     const auto failed = [](const Error& error) {
         log("Error updating theme: " + error.description);
         return error;
@@ -133,7 +137,7 @@ Status ThemeManager::updateTheme(const Theme& theme, const std::string& newName)
 
 Status ThemeManager::removeTheme(const std::string& themeID) {
     assertOffMainThread("Removing a theme");
-    const std::lock_guard lock(m_listing);
+    const std::lock_guard lock(m_naming);
     if (const Status removed = m_library.remove(themeID); !removed)
         return removed;
     ignoreFailure(m_hidden.forget(themeID)); // ids are not drawn twice

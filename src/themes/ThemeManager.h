@@ -99,6 +99,7 @@ public:
     std::vector<MacPath> themeIconsFor(const std::string& bundleID) const;
 
 private:
+    void readThemes(); ///< with the lock held
     void change(const std::function<void(std::vector<Theme>&)>& how);
     std::vector<Theme> listed() const;
     Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
@@ -119,7 +120,7 @@ private:
     ThemeLibrary m_library;
     std::vector<Theme> m_installedThemes;
     bool m_isApplyingTheme = false;
-    std::mutex m_listing; ///< held from the look at the disk or the names to the change of the list
+    std::mutex m_naming; ///< held from the look at the disk or the names to the change of the list
 };
 
 } // namespace tavrik
