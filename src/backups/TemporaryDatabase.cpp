@@ -73,7 +73,7 @@ Status TemporaryDatabase::connect() {
         return Error{"unable to open database file", sqlite::kCannotOpen};
     const bool isReady = m_connection->disableTriggers() &&
                          m_connection->execute("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = OFF; "
-                                               "PRAGMA synchronous = OFF; PRAGMA cache_size = -32768") &&
+                                               "PRAGMA synchronous = OFF; PRAGMA cache_size = -131072") &&
                          m_connection->execute("BEGIN EXCLUSIVE TRANSACTION");
     return isReady ? Status(Done{}) : Status(sqliteError());
 }

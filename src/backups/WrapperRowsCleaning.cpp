@@ -13,9 +13,7 @@ namespace tavrik {
 
 namespace {
 
-// Only a bookmark with the folder's name in it can lead there, and to resolve them all would take long.
-constexpr const char* kSuspects = "SELECT item_id, bundleid, bookmark FROM apps "
-                                  "WHERE instr(bookmark, CAST('Tavrik' AS BLOB)) > 0";
+constexpr const char* kBookmarks = "SELECT item_id, bundleid, bookmark FROM apps WHERE bookmark IS NOT NULL";
 constexpr const char* kAppRow = "SELECT a.title, a.bundleid, a.bookmark FROM apps a JOIN items i ON i.rowid = "
                                 "a.item_id WHERE a.item_id = ?";
 
@@ -40,14 +38,15 @@ WrapperRowsCleaning::WrapperRowsCleaning(sqlite::Connection& database, const Boo
       m_settings(settings) {}
 
 bool WrapperRowsCleaning::find() {
-    auto rows = m_database.prepare(kSuspects);
+    auto rows = m_database.prepare(kBookmarks);
     if (!rows)
         return false;
     sqlite::Step step = rows.step();
     for (; step == sqlite::Step::row; step = rows.step()) {
         const auto row = rows.int64(0);
-        const auto bookmark = rows.blob(2);
-        if (!row || !bookmark)
+        const auto bookmark = rows.blobView(2);
+        // Only a bookmark with the folder's name in it can lead there, and to resolve them all would take long.
+        if (!row || !bookmark || textOf(*bookmark).find("Tavrik") == std::string_view::npos)
             continue;
         const Lead lead = leadOf(*bookmark);
         m_suspects.emplace(RowID{*row}, Suspect{trimmed(rows.text(1).value_or("")), lead});

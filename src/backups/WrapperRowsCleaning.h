@@ -50,7 +50,7 @@ private:
         Bytes bookmark;
     };
 
-    /// A row whose bookmark names the wrapper folder's name.
+    /// A row whose bookmark has the wrapper folder's name in it.
     struct Suspect {
         std::string bundleID;
         Lead lead;

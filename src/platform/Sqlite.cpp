@@ -177,11 +177,16 @@ std::optional<std::string> Statement::text(int column) const {
 }
 
 std::optional<Bytes> Statement::blob(int column) const {
+    const auto view = blobView(column);
+    return view ? std::optional(Bytes(view->begin(), view->end())) : std::nullopt;
+}
+
+std::optional<ByteView> Statement::blobView(int column) const {
     if (isNull(m_handle, column))
         return std::nullopt;
     const auto* data = static_cast<const std::uint8_t*>(sqlite3_column_blob(m_handle, column));
     const auto size = static_cast<std::size_t>(sqlite3_column_bytes(m_handle, column));
-    return data ? Bytes(data, data + size) : Bytes();
+    return data ? ByteView(data, size) : ByteView();
 }
 
 Transaction::Transaction(Connection& connection, const char* begin)

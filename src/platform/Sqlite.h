@@ -94,6 +94,8 @@ public:
     std::optional<double> real(int column) const;
     std::optional<std::string> text(int column) const;
     std::optional<Bytes> blob(int column) const;
+    /// The same where it lies: gone with the next step.
+    std::optional<ByteView> blobView(int column) const;
 
 private:
     friend class Connection;
