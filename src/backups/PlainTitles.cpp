@@ -58,7 +58,8 @@ std::optional<std::size_t> PlainTitles::run(const Pass& pass, const Naming& name
     auto rows = m_database.prepare(pass.query);
     if (!rows) {
         log("  🔵 DEBUG: Failed to prepare " + std::string(pass.what) + "s query");
-        return 0;
+        return m_database.lastErrorCode() == sqlite::kNoSuchThing ? std::optional<std::size_t>(0)
+                                                                  : std::nullopt;
     }
     std::vector<std::pair<std::int64_t, std::string>> names;
     std::optional<std::int64_t> last;

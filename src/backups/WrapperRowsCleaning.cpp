@@ -63,7 +63,7 @@ bool WrapperRowsCleaning::find() {
         if (isPair(bundleID, pair))
             m_hiddenFlagApps.emplace(bundleID, pair);
     }
-    return true;
+    return m_isReadable;
 }
 
 bool WrapperRowsCleaning::swapBack() {
@@ -92,7 +92,7 @@ bool WrapperRowsCleaning::swapBack() {
         if (!copyPlacement(pair.wrapper, pair.original))
             return false;
     }
-    return true;
+    return m_isReadable;
 }
 
 std::optional<std::size_t> WrapperRowsCleaning::removeWrappers() {
@@ -127,10 +127,11 @@ WrapperRowsCleaning::Lead WrapperRowsCleaning::leadOf(ByteView bookmark) const {
 
 std::optional<WrapperRowsCleaning::AppRow> WrapperRowsCleaning::appRow(RowID row) {
     auto select = m_database.prepare(kAppRow);
-    if (!select)
-        return std::nullopt;
-    select.bind(1, number(row));
-    if (select.step() != sqlite::Step::row)
+    if (select)
+        select.bind(1, number(row));
+    const sqlite::Step step = select ? select.step() : sqlite::Step::failed;
+    m_isReadable = m_isReadable && step != sqlite::Step::failed;
+    if (step != sqlite::Step::row)
         return std::nullopt;
     return AppRow{select.text(0).value_or(""), trimmed(select.text(1).value_or("")),
                   select.blob(2).value_or(Bytes())};

@@ -72,6 +72,7 @@ private:
     const Bookmarks& m_bookmarks;
     SettingsManager& m_settings;
     std::map<RowID, Suspect> m_suspects;
+    bool m_isReadable = true;                     ///< a row that was not found is really not there
     std::set<RowID> m_wrappers;                   ///< whose rows go
     std::map<std::string, Pair> m_hiddenFlagApps; ///< by bundle identifier
 };

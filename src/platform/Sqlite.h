@@ -20,7 +20,9 @@ enum class OpenMode {
     readOnly,
 };
 
-/// SQLite's code for a file that cannot be opened.
+/// SQLite's codes for a statement about what is not there, a table for one, and for a file that cannot be
+/// opened.
+inline constexpr int kNoSuchThing = 1;
 inline constexpr int kCannotOpen = 14;
 
 enum class Step { row, done, failed };
