@@ -52,7 +52,7 @@ std::vector<BackupListItem> itemsOf(const std::vector<BackupFolder::Entry>& entr
 
 Error creationFailed(const std::string& reason) {
     log("❌ Backup creation failed: " + reason);
-    return Error{"No backup was made: " + reason + "."};
+    return Error{reason + "."};
 }
 
 } // namespace
@@ -117,36 +117,45 @@ void BackupManager::removeLeftovers() {
 
 Result<MacPath> BackupManager::createBackup(const std::set<MacPath>& spared) {
     assertOffMainThread("Taking a backup");
-    auto live = readLive();
-    if (const auto* fault = std::get_if<LiveStoresFault>(&live))
+    auto snapshot = takeSnapshot(spared);
+    if (const auto* fault = std::get_if<LiveStoresFault>(&snapshot))
         return Error{"No backup was made. " + fault->error.description};
-    return keep(std::get<BackupContents>(std::move(live)), spared);
+    return std::get<MacPath>(std::move(snapshot));
 }
 
-std::variant<BackupContents, LiveStoresFault> BackupManager::readLive() const {
+std::variant<MacPath, LiveStoresFault> BackupManager::takeSnapshot(std::set<MacPath> spared) {
     log("📦 Creating backup of Dock and Launchpad files...");
-    return readLiveStores(m_mac, m_dock.dockPlistPath(), m_database.launchpadDatabasePath());
+    const MacPath& dockPlist = m_dock.dockPlistPath();
+    const MacPath database = m_database.launchpadDatabasePath();
+    auto live = readLiveStores(m_mac, dockPlist, database);
+    if (auto* fault = std::get_if<LiveStoresFault>(&live))
+        return std::move(*fault);
+
+    // What is sealed is sound, whatever happens next: a kill must not leave it in doubt.
+    const BackupReading contents = checkContents(cleaned(std::get<BackupContents>(std::move(live))));
+    if (std::holds_alternative<BackupFault>(contents))
+        return whyUnsound(m_mac, dockPlist, database);
+    auto backup = write(std::get<BackupContents>(contents));
+    if (!backup)
+        return LiveStoresFault{.error = backup.error()};
+    log("✅ Backup created successfully: " + backup->name());
+    spared.insert(*backup);
+    m_folder.rotate(m_settings.getBackupRetentionCount(), spared);
+    return std::move(*backup);
 }
 
-Result<MacPath> BackupManager::keep(BackupContents contents, std::set<MacPath> spared) {
+BackupContents BackupManager::cleaned(BackupContents contents) {
     log("🧹 Cleaning Dock plist...");
     contents.dockPlist = m_dockCleaning.clean(std::move(contents.dockPlist));
     log("🧹 Cleaning Launchpad database...");
     contents.launchpadDatabase = m_launchpadCleaning.clean(std::move(contents.launchpadDatabase));
-
-    auto backup = write(contents);
-    if (!backup)
-        return backup;
-    log("✅ Backup created successfully: " + backup->name());
-    spared.insert(*backup);
-    m_folder.rotate(m_settings.getBackupRetentionCount(), spared);
-    return backup;
+    return contents;
 }
 
 Result<MacPath> BackupManager::write(const BackupContents& contents) {
     const auto container = seal(contents);
     if (!container)
-        return Error{"No backup was made: it could not be sealed."};
+        return Error{"It could not be sealed."};
     const auto present = m_folder.read();
     if (!present)
         return creationFailed(present.error().description);
@@ -179,12 +188,13 @@ std::optional<Bytes> BackupManager::seal(const BackupContents& contents) const {
     return container;
 }
 
-/// Read again from the disk, as a restore will.
+/// Read again from the disk, as a restore will. Equal bytes need no other check.
 bool BackupManager::holds(const MacPath& backup, const BackupContents& contents) const {
-    const BackupReading reading = readBackup(backup);
-    const auto* found = std::get_if<BackupContents>(&reading);
-    return found && found->dockPlist == contents.dockPlist &&
-           found->launchpadDatabase == contents.launchpadDatabase;
+    auto file = m_mac.files.read(backup);
+    const auto archive = file ? m_container.open(std::move(*file)) : std::nullopt;
+    auto members = archive ? extractArchive(*archive) : std::nullopt;
+    return members && (*members)[kDockMember] == contents.dockPlist &&
+           (*members)[kLaunchpadMember] == contents.launchpadDatabase;
 }
 
 Result<LayoutSummary> BackupManager::summaryOfLiveStores() {
@@ -225,18 +235,14 @@ Status BackupManager::restoreBackup(const MacPath& backup) {
 
 /// The restored backup stays where it is: it may be the oldest.
 Status BackupManager::keepPresentState(const MacPath& restored) {
-    const auto refusal = [](const Error& reason) {
-        return Error{"Nothing was changed, because the present state could not be kept. " + reason.description};
-    };
-    auto live = readLive();
-    if (const auto* fault = std::get_if<LiveStoresFault>(&live)) {
-        if (!fault->isNothingToKeep)
-            return refusal(fault->error);
+    const auto snapshot = takeSnapshot({restored});
+    const auto* fault = std::get_if<LiveStoresFault>(&snapshot);
+    if (fault && !fault->isNothingToKeep)
+        return Error{"Nothing was changed, because the present state could not be kept. " +
+                     fault->error.description};
+    if (fault)
         log("⚠️ There is no sound present state to keep before the restore");
-        return Done{};
-    }
-    const auto kept = keep(std::get<BackupContents>(std::move(live)), {restored});
-    return kept ? Status(Done{}) : refusal(kept.error());
+    return Done{};
 }
 
 } // namespace tavrik

@@ -101,8 +101,8 @@ public:
     void removeLeftovers();
 
 private:
-    std::variant<BackupContents, LiveStoresFault> readLive() const;
-    Result<MacPath> keep(BackupContents contents, std::set<MacPath> spared);
+    std::variant<MacPath, LiveStoresFault> takeSnapshot(std::set<MacPath> spared);
+    BackupContents cleaned(BackupContents contents);
     std::optional<Bytes> seal(const BackupContents& contents) const;
     Result<MacPath> write(const BackupContents& contents);
     bool holds(const MacPath& backup, const BackupContents& contents) const;

@@ -65,10 +65,17 @@ std::variant<BackupContents, LiveStoresFault> readLiveStores(Mac& mac, const Mac
     if (!copy)
         return databaseFault(mac, places, std::move(*dock), copy.error());
 
-    BackupReading checked = checkContents({std::move(*dock), std::move(*copy)});
+    return BackupContents{std::move(*dock), std::move(*copy)};
+}
+
+LiveStoresFault whyUnsound(Mac& mac, const MacPath& dockPlist, const MacPath& database) {
+    auto live = readLiveStores(mac, dockPlist, database);
+    if (auto* fault = std::get_if<LiveStoresFault>(&live))
+        return std::move(*fault);
+    const BackupReading checked = checkContents(std::get<BackupContents>(std::move(live)));
     if (const auto* fault = std::get_if<BackupFault>(&checked))
-        return damaged(places, *fault);
-    return std::get<BackupContents>(std::move(checked));
+        return damaged({dockPlist, database}, *fault);
+    return failed("the cleaned copy of the stores is damaged");
 }
 
 } // namespace tavrik

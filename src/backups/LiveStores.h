@@ -16,11 +16,14 @@ struct LiveStoresFault {
     bool isNothingToKeep = false; ///< one is missing, empty or damaged: they are no state to come back to
 };
 
-/// The Dock's preferences read whole, and the Launchpad database with what its log holds, both checked as a
-/// restore checks them. A store that is missing, empty or no store at all is not found; one that is damaged, or
-/// cannot be read, is a failure; either with its log line. Writes nothing and never creates a file. Background
-/// thread; blocks on the disk.
+/// The Dock's preferences read whole, and the Launchpad database with what its log holds; not checked. A store
+/// that is missing, empty or no store at all is not found; one that cannot be read is a failure; either with
+/// its log line. Writes nothing and never creates a file. Background thread; blocks on the disk.
 std::variant<BackupContents, LiveStoresFault> readLiveStores(Mac& mac, const MacPath& dockPlist,
                                                              const MacPath& database);
+
+/// For when what was made of the stores fails the check of a backup: whether they are damaged themselves. Reads
+/// them anew, and logs what it finds.
+LiveStoresFault whyUnsound(Mac& mac, const MacPath& dockPlist, const MacPath& database);
 
 } // namespace tavrik
