@@ -86,6 +86,9 @@ public:
     virtual Result<MacPath> resolveLinks(const MacPath& path) const = 0;
 
     virtual Status setModified(const MacPath& path, Date date) = 0;
+
+    /// Bytes that the user may still write to the disk that holds this folder.
+    virtual Result<std::uint64_t> availableSpace(const MacPath& folder) const = 0;
 };
 
 } // namespace tavrik

@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <array>
@@ -202,6 +203,16 @@ Status PosixFileManager::setModified(const MacPath& path, Date date) {
     if (::utimensat(AT_FDCWD, host->c_str(), times.data(), 0) != 0)
         return failure(path, lastError());
     return Done{};
+}
+
+Result<std::uint64_t> PosixFileManager::availableSpace(const MacPath& folder) const {
+    const auto host = locate(folder, Links::follow);
+    if (!host)
+        return host.error();
+    struct statvfs disk{};
+    if (::statvfs(host->c_str(), &disk) != 0)
+        return failure(folder, lastError());
+    return std::uint64_t{disk.f_bavail} * disk.f_frsize;
 }
 
 } // namespace tavrik

@@ -37,6 +37,7 @@ public:
     Result<std::string> readLink(const MacPath& link) const override;
     Result<MacPath> resolveLinks(const MacPath& path) const override;
     Status setModified(const MacPath& path, Date date) override;
+    Result<std::uint64_t> availableSpace(const MacPath& folder) const override;
 
     /// Where the host keeps a path: links above the last component, and the last one too when asked for, are
     /// followed. An error when a component above the last is missing or links go in a circle (more than 40).

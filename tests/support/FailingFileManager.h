@@ -104,6 +104,10 @@ public:
         return attempt("setModified", path, &FileManager::setModified, path, date);
     }
 
+    Result<std::uint64_t> availableSpace(const MacPath& path) const override {
+        return attempt("availableSpace", path, &FileManager::availableSpace, path);
+    }
+
 private:
     std::optional<Error> fault(const char* name, const MacPath& path) const;
 
