@@ -124,7 +124,7 @@ TransferRecords IconTransfer::load() const {
     return records ? std::move(*records) : TransferRecords();
 }
 
-IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
+IconTransfer::Places IconTransfer::run(const std::string& bundleID, const std::string& name) {
     const TransferRecords records = load();
     const auto entry = records.find(bundleID);
     if (entry == records.end())
@@ -141,11 +141,17 @@ IconTransfer::Places IconTransfer::run(const std::string& bundleID) {
 
     // The marked ones go.
     bool allDeleted = true;
+    if (!record.marked.empty())
+        log("  Deleting " + std::to_string(record.marked.size()) + " marked icons for " +
+            (name.empty() ? bundleID : name));
     for (const RecordedIcon& marked : record.marked) {
         const auto number = iconIndex(marked.path.name());
         if (number && !isPendingIconPath(marked.path) && isCertain(marked, record, *before))
             allDeleted = m_store.deletePermanentIcon(bundleID, *number) && allDeleted;
     }
+
+    if (!record.marked.empty())
+        log("  Permanent icons after cleanup: " + std::to_string(m_store.listIcons(bundleID).size()));
 
     // The pending ones come behind the others.
     for (const auto& identity : shown) {

@@ -48,8 +48,8 @@ public:
     /// is known to be lost then. Safe to repeat, also by another process after a kill, for as long as the
     /// record stands: what is done is not done again, and the answer is the same. The selected icon in the
     /// settings stays the one that it was before the run, at its present number, until the caller stores
-    /// another.
-    Places run(const std::string& bundleID);
+    /// another. `name` is the application's, for the log, where it is known.
+    Places run(const std::string& bundleID, const std::string& name = {});
 
     /// The bundle identifiers of a run that was begun and not ended, by this process or an earlier one.
     std::vector<std::string> interrupted() const;

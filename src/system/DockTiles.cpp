@@ -108,6 +108,11 @@ std::vector<Tile> appTiles(plist::Value& preferences) {
     return tilesThat(preferences, [](const Tile& tile) { return tile.bundleID() != nullptr; });
 }
 
+std::vector<Tile> applicationTiles(plist::Value& preferences) {
+    return tilesThat(preferences,
+                     [](const Tile& tile) { return tile.bundleID() || (tile.url() && tile.label()); });
+}
+
 std::vector<Tile> labelledTiles(plist::Value& preferences) {
     return tilesThat(preferences, [](const Tile& tile) { return tile.url() && tile.label(); });
 }

@@ -56,6 +56,10 @@ std::vector<Tile> allTiles(plist::Value& preferences);
 /// The tiles of "persistent-apps" that carry a bundle identifier, in Dock order.
 std::vector<Tile> appTiles(plist::Value& preferences);
 
+/// The tiles of "persistent-apps" that carry an identifier, or a URL and a label, in Dock order: all that
+/// anything here ever changes.
+std::vector<Tile> applicationTiles(plist::Value& preferences);
+
 /// The tiles of "persistent-apps" that carry a URL and a label, with or without an identifier, in Dock order.
 std::vector<Tile> labelledTiles(plist::Value& preferences);
 

@@ -57,6 +57,11 @@ bool TavrikAppManager::hasWrapper(const std::string& bundleID) const {
     return m_settings.getMapping(bundleID) && !m_exchange.isUnfinished(bundleID);
 }
 
+bool TavrikAppManager::hasBundle(const ApplicationInfo& app) const {
+    const std::optional<MacPath> wrapper = wrapperPath(app);
+    return wrapper && m_folder.exists(*wrapper) && !m_folder.belongsToAnother(*wrapper, app.bundleID);
+}
+
 bool TavrikAppManager::updateWrapperIcon(const ApplicationInfo& app, const QImage& icon) {
     log("\n=== UPDATING TAVRIK APP ICON ===");
     const std::optional<MacPath> wrapper = refuseLinks(app);

@@ -56,6 +56,9 @@ public:
     /// Whether the application is swapped, with nothing left to do.
     bool hasWrapper(const std::string& bundleID) const;
 
+    /// Whether a bundle of this application's stands in the wrapper folder, swapped in or not.
+    bool hasBundle(const ApplicationInfo& app) const;
+
     /// Whether a creation or removal was stopped half-way. The next creation or removal of the application
     /// repairs it.
     bool isUnfinished(const std::string& bundleID) const;
