@@ -20,7 +20,25 @@ Managers::Managers(Mac& mac)
       apps(launchpadDatabase, settings, wrappers, iconStore, iconCache),
       pendingChanges(mac, settings, fonts.fontReplacer(), iconStore, iconTransfer, notificationCenter),
       themes(mac, settings, apps, iconStore, hiddenThemeIcons, pendingChanges, notificationCenter),
-      backups(mac, settings, launchpadDatabase, dock, pendingChanges, fonts.fontReplacer(),
-              notificationCenter) {}
+      backups(mac, settings, launchpadDatabase, dock, pendingChanges, fonts.fontReplacer(), notificationCenter),
+      progress(notificationCenter),
+      applyServices{mac,
+                    settings,
+                    launchpadDatabase,
+                    dock,
+                    launchpad,
+                    wrappers,
+                    fonts,
+                    iconStore,
+                    iconCache,
+                    iconTransfer,
+                    hiddenThemeIcons,
+                    apps,
+                    pendingChanges,
+                    backups,
+                    themes,
+                    notificationCenter,
+                    progress},
+      apply(applyServices) {}
 
 } // namespace tavrik

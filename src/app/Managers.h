@@ -2,6 +2,8 @@
 
 #include "backups/BackupManager.h"
 #include "changes/PendingChangesManager.h"
+#include "changes/apply/ApplyPipeline.h"
+#include "changes/apply/ProgressOverlayManager.h"
 #include "fonts/FontManager.h"
 #include "icons/HiddenThemeIcons.h"
 #include "icons/IconCache.h"
@@ -44,6 +46,9 @@ struct Managers {
     PendingChangesManager pendingChanges;
     ThemeManager themes;
     BackupManager backups;
+    ProgressOverlayManager progress;
+    ApplyServices applyServices;
+    ApplyPipeline apply;
 };
 
 } // namespace tavrik

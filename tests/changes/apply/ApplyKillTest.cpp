@@ -1,0 +1,168 @@
+#include "ApplyStage.h"
+
+#include <cstdlib>
+#include <functional>
+#include <thread>
+
+namespace tavrik::test {
+
+namespace {
+
+/// Stands for a kill: nothing in the program catches it.
+struct Killed {};
+
+const std::string kBold = "Mathematical Bold";
+const std::string kBeacon = "com.example.lumen.beacon";
+const std::string kGantry = "com.example.harbour.gantry";
+
+/// A mixed run that can be cut at any of its steps: three wrappers created, two updated, two removed, a style,
+/// and what is staged for themes.
+class ApplyKill : public ApplyStage {
+protected:
+    /// Four applications restyled, two themes, the Dock at rest.
+    void prepare() {
+        for (const auto& [bundleID, number] :
+             {std::pair(kAtlas, 1), {kInkwell, 2}, {kCinder, 3}, {kFerrule, 4}})
+            add(bundleID, number);
+        expectApplied();
+        theme = program->themes.createTheme("Dusk", false)->themeID;
+        goingTheme = program->themes.createTheme("Dawn", false)->themeID;
+        for (const std::string& bundleID : {kAtlas, kCinder})
+            EXPECT_TRUE(program->themes.library().writeIcon(theme, bundleID, bytesOf("a picture")));
+    }
+
+    void stage() {
+        add(kAtlas, 11);
+        add(kInkwell, 12);
+        chooseNone(kCinder);
+        chooseNone(kFerrule);
+        add(kBeacon, 13);
+        add(kGantry, 14);
+        add(kMissionControl, 15);
+        pending().setPendingFont(kBold);
+        pending().hideThemeIcon(theme, kAtlas + ".png");
+        pending().deleteThemeIcon(theme, kCinder + ".png");
+        pending().deleteTheme(goingTheme);
+    }
+
+    void expectTarget() {
+        for (const auto& [bundleID, number] :
+             {std::pair(kAtlas, 11), {kInkwell, 12}, {kBeacon, 13}, {kGantry, 14}, {kMissionControl, 15}}) {
+            Look expected = restyled(bundleID, number);
+            expected.title = styled(expected.title, kBold);
+            EXPECT_EQ(lookOf(bundleID), expected) << bundleID;
+        }
+        for (const std::string& bundleID : {kCinder, kFerrule}) {
+            EXPECT_FALSE(lookOf(bundleID).isWrapper) << bundleID;
+            EXPECT_EQ(program->settings.getSelectedIcon(bundleID), std::nullopt);
+        }
+        EXPECT_THAT(permanentIcons(kAtlas), testing::ElementsAre(1, 11));
+        EXPECT_THAT(permanentIcons(kCinder), testing::ElementsAre(3));
+        EXPECT_EQ(program->settings.getAllSwapRecords().size(), 0U);
+        EXPECT_EQ(program->settings.getAllMappings().size(), 5U);
+        EXPECT_FALSE(mac.files.exists(program->themes.library().folderOf(goingTheme)));
+        EXPECT_EQ(program->themes.library().icons(theme).size(), 1U);
+    }
+
+    /// Runs the work and kills the program before its change of that number; false when it was over before.
+    /// What runs while the stack is unwound has no effect, as it would have none.
+    bool killedBefore(std::size_t change, const std::function<void()>& work) {
+        const auto thread = std::this_thread::get_id();
+        std::size_t changes = 0;
+        bool isDead = false;
+        const auto passes = [&] {
+            if (isDead)
+                return false;
+            if (std::this_thread::get_id() == thread && ++changes == change) {
+                isDead = true;
+                throw Killed();
+            }
+            return true;
+        };
+        files.setRule([&](const FileOperation& operation) -> std::optional<int> {
+            static const std::set<std::string> kChanges{"write",   "create", "copy",        "move",
+                                                        "replace", "remove", "createFolder"};
+            if (!isDead && !kChanges.contains(operation.name))
+                return std::nullopt;
+            return passes() ? std::nullopt : std::optional(EIO);
+        });
+        session.setInterceptor([&](const auto&, const auto&, const auto&) -> std::optional<Result<ToolResult>> {
+            return passes() ? std::nullopt : std::optional(Result<ToolResult>(Error{"killed", EIO}));
+        });
+        try {
+            work();
+        } catch (const Killed&) {
+        }
+        program.reset();
+        files.failNothing();
+        session.setInterceptor({});
+        start();
+        return isDead;
+    }
+
+    /// As the start of the program does.
+    void recover() {
+        program->backups.removeLeftovers();
+        if (pending().hasRecoverableChanges()) {
+            EXPECT_TRUE(pending().recover());
+        }
+    }
+
+    void expectNoLeftovers() {
+        for (const auto& [path, what] : treeOf(mac.files, program->settings.appSupportURL()))
+            EXPECT_FALSE(path.ends_with(".new") || path.find("temp_") != path.npos) << path;
+        EXPECT_TRUE(mac.files.list(MacPath(mac.volume.temporaryFolder()))->empty());
+    }
+
+    std::string theme;
+    std::string goingTheme;
+};
+
+/// Every so many changes; all of them with TAVRIK_KILL_STRIDE=1.
+std::size_t stride() {
+    const char* wanted = std::getenv("TAVRIK_KILL_STRIDE");
+    return wanted ? std::strtoul(wanted, nullptr, 10) : 41;
+}
+
+} // namespace
+
+TEST_F(ApplyKill, ASecondApplyReachesTheTargetFromEveryPoint) {
+    const auto firstTiles = volume.pinnedTiles();
+    prepare();
+    std::size_t change = 1 + stride() / 2;
+    std::size_t points = 0;
+    for (bool wasKilled = true; wasKilled && !HasFailure(); change += stride()) {
+        SCOPED_TRACE("killed before change " + std::to_string(change));
+        stage();
+        wasKilled = killedBefore(change, [&] { program->apply.applyChanges(); });
+        points += wasKilled;
+        recover();
+        if (pending().hasPendingChanges()) {
+            const ApplyResult result = apply();
+            EXPECT_EQ(result.end, ApplyResult::End::applied) << testing::PrintToString(result.reasons);
+            EXPECT_TRUE(result.failedApps.empty()) << testing::PrintToString(reports);
+        }
+        expectTarget();
+        expectNoLeftovers();
+
+        // And from there, or from the middle of it, back to the very beginning.
+        stage();
+        killedBefore(change * 7 % 311, [&] { program->apply.applyChanges(); });
+        pending().clearAllPendingChanges();
+        ASSERT_TRUE(program->backups.restoreBackup(*program->backups.find("Original State")));
+        program->launchpad.restartDock();
+        clock.sleep(std::chrono::seconds(5));
+        EXPECT_EQ(volume.launchpadItems(), firstRows);
+        EXPECT_EQ(volume.pinnedTiles(), firstTiles);
+        for (const std::string& bundleID :
+             {kAtlas, kInkwell, kCinder, kFerrule, kBeacon, kGantry, kMissionControl})
+            ASSERT_TRUE(mac.files.remove(program->iconStore.iconCacheURL() / bundleID) || true);
+        for (const std::string& id : {theme, goingTheme})
+            ASSERT_TRUE(program->themes.removeTheme(id));
+        start();
+        prepare();
+    }
+    EXPECT_GT(points, 3U) << "too few changes were seen to mean anything";
+}
+
+} // namespace tavrik::test
