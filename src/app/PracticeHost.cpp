@@ -16,7 +16,7 @@ practice::Programs programs() {
 
 class PracticeHost : public MacHost {
 public:
-    explicit PracticeHost(const HostPath& root) : m_mac(root) {}
+    PracticeHost(const HostPath& root, Alerts& alerts) : m_mac(root, {.alerts = &alerts}) {}
 
     Mac& mac() override { return m_mac.mac(); }
 
@@ -36,10 +36,10 @@ HostPath programsFolder() {
     return HostPath(QCoreApplication::applicationDirPath().toStdString());
 }
 
-Result<std::unique_ptr<MacHost>> openPracticeMac(const HostPath& root) {
+Result<std::unique_ptr<MacHost>> openPracticeMac(const HostPath& root, Alerts& alerts) {
     if (Status furnished = practice::furnish(root, programs()); !furnished)
         return furnished.error();
-    return std::unique_ptr<MacHost>(std::make_unique<PracticeHost>(root));
+    return std::unique_ptr<MacHost>(std::make_unique<PracticeHost>(root, alerts));
 }
 
 Status resetPracticeMac(const HostPath& root) {

@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "cli/ApplyCommands.h"
 #include "cli/BackupCommands.h"
 #include "cli/FontCommands.h"
 #include "cli/IconCommands.h"
@@ -81,6 +82,7 @@ CommandLine::CommandLine()
     declareIcons();
     declareFonts();
     declareStaging();
+    declareApplying();
     declareWrappers();
     declareBackups();
     declarePractice();
@@ -143,6 +145,17 @@ void CommandLine::declareStaging() {
     addJson(*command, status.json);
     add<DiscardCommand>(m_parser, "discard", "Drop all that is staged", command);
     add<RecoverCommand>(m_parser, "recover", "Mend what is staged after a crash, and tell it", command);
+}
+
+void CommandLine::declareApplying() {
+    CLI::App* command = nullptr;
+    PlanCommand& plan = add<PlanCommand>(m_parser, "plan", "Tell what an apply would change", command);
+    addJson(*command, plan.json);
+    ApplyCommand& apply =
+        add<ApplyCommand>(m_parser, "apply", "Bring what is staged into Launchpad and the Dock", command);
+    command->add_flag("--close-running-apps", apply.closeRunningApps,
+                      "Close applications that must be closed without asking");
+    add<RefreshCommand>(m_parser, "refresh", "Write what is applied again, and restart the Dock", command);
 }
 
 void CommandLine::declareWrappers() {

@@ -26,6 +26,7 @@ private:
     void declareIcons();
     void declareFonts();
     void declareStaging();
+    void declareApplying();
     void declareWrappers();
     void declareBackups();
     void declarePractice();

@@ -23,7 +23,7 @@ void printLine(std::FILE* stream, std::string_view line) {
 Companion::Companion(HostPath practiceRoot) : m_practiceRoot(std::move(practiceRoot)) {}
 
 ExitCode Companion::open(Access access) {
-    auto host = openPracticeMac(m_practiceRoot);
+    auto host = openPracticeMac(m_practiceRoot, m_alerts);
     if (!host)
         return fail(host.error().description);
     m_host = std::move(*host);

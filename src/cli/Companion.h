@@ -3,6 +3,7 @@
 #include "app/MacHost.h"
 #include "app/Managers.h"
 #include "cli/Command.h"
+#include "cli/TerminalAlerts.h"
 #include "model/SupportFolderLock.h"
 #include "platform/MainQueue.h"
 #include "platform/Path.h"
@@ -43,6 +44,8 @@ public:
 
     MacHost& host() { return *m_host; }
 
+    TerminalAlerts& alerts() { return m_alerts; }
+
     /// Runs a work on the main thread, where staged changes belong, and hands back its answer.
     template<typename Work>
     auto onMain(Work&& work) {
@@ -73,6 +76,7 @@ private:
     ExitCode takeLock(Access access);
 
     HostPath m_practiceRoot;
+    TerminalAlerts m_alerts;
     std::unique_ptr<MacHost> m_host;
     std::optional<SupportFolderLock> m_lock; ///< goes after the managers
     std::optional<Managers> m_managers;

@@ -247,6 +247,26 @@ QJsonObject toJson(const BackupListItem& backup, const LayoutSummary& layout,
     return json;
 }
 
+QJsonObject toJson(const ApplyPipeline::Preview& preview) {
+    QJsonArray changes;
+    for (const StoreChange& change : preview.plan.changes) {
+        changes.append(QJsonObject{
+            {QLatin1String("kind"), text(nameOf(change.kind))},
+            {QLatin1String("subject"), text(change.subject)},
+            {QLatin1String("from"), text(change.from)},
+            {QLatin1String("to"), text(change.to)},
+        });
+    }
+    return {
+        {QLatin1String("created"), texts(preview.plan.created)},
+        {QLatin1String("updated"), texts(preview.plan.updated)},
+        {QLatin1String("removed"), texts(preview.plan.removed)},
+        {QLatin1String("dockRestarts"), preview.plan.dockRestarts()},
+        {QLatin1String("changes"), changes},
+        {QLatin1String("obstacles"), texts(preview.obstacles)},
+    };
+}
+
 std::string jsonText(const QJsonArray& array) {
     return plainText(QJsonDocument(array));
 }

@@ -4,6 +4,7 @@
 #include "backups/BackupSummary.h"
 #include "changes/IconRow.h"
 #include "changes/StagedChanges.h"
+#include "changes/apply/ApplyPipeline.h"
 #include "fonts/FontReplacer.h"
 #include "model/ApplicationInfo.h"
 #include "model/SettingsRecords.h"
@@ -41,6 +42,8 @@ QJsonArray toJson(const std::vector<BackupListItem>& backups);
 /// those are not known. A folder is told from an application by its "pages".
 QJsonObject toJson(const BackupListItem& backup, const LayoutSummary& layout,
                    const std::optional<LayoutDifferences>& differences);
+/// The groups, the number of restarts, the changes and the obstacles.
+QJsonObject toJson(const ApplyPipeline::Preview& preview);
 
 std::string jsonText(const QJsonArray& array);
 std::string jsonText(const QJsonObject& object);

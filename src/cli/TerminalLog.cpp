@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 namespace tavrik {
@@ -24,15 +25,25 @@ bool isReadByAPerson(std::FILE* stream) {
     return ::isatty(STDOUT_FILENO) == 1 && ::isatty(::fileno(stream)) == 1;
 }
 
+bool canDim() {
+    const std::string_view terminal = variable("TERM");
+    return variable("NO_COLOR").empty() && !terminal.empty() && terminal != "dumb";
+}
+
 } // namespace
 
 void sendLogTo(std::FILE* stream) {
-    const std::string_view terminal = variable("TERM");
-    const bool canDim = variable("NO_COLOR").empty() && !terminal.empty() && terminal != "dumb";
-    if (canDim && isReadByAPerson(stream))
+    if (isReadByAPerson(stream) && canDim())
         setLogStream(stream, kFaint, kPlain);
     else
         setLogStream(stream);
+}
+
+bool setLogAbove(std::string_view erase) {
+    if (!isReadByAPerson(stdout) || !canDim())
+        return false;
+    setLogStream(stdout, std::string(erase).append(kFaint), kPlain);
+    return true;
 }
 
 } // namespace tavrik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <string_view>
 
 namespace tavrik {
 
@@ -8,5 +9,9 @@ namespace tavrik {
 /// are dimmed, so that the command's answer stands out among them; not when NO_COLOR is set or the terminal
 /// knows no such thing. Files and other programs get the lines as they stand.
 void sendLogTo(std::FILE* stream);
+
+/// For a line that is kept below the log on standard output: `erase` is printed before each log line. False,
+/// with nothing changed, when no person reads it at a terminal that can.
+bool setLogAbove(std::string_view erase);
 
 } // namespace tavrik

@@ -1,0 +1,37 @@
+#include "cli/TerminalAlerts.h"
+
+#include <unistd.h>
+
+#include <charconv>
+#include <iostream>
+#include <string>
+
+namespace tavrik {
+
+namespace {
+
+bool isTerminal() {
+    return ::isatty(STDIN_FILENO) == 1 && ::isatty(STDOUT_FILENO) == 1;
+}
+
+} // namespace
+
+std::size_t TerminalAlerts::ask(const Alert& alert) {
+    const std::size_t last = alert.buttons.empty() ? 0 : alert.buttons.size() - 1;
+    if (m_pressesFirst)
+        return 0;
+    if (!isTerminal())
+        return last;
+    std::cout << '\n' << alert.title << '\n' << alert.text << '\n';
+    for (std::size_t i = 0; i <= last && i < alert.buttons.size(); ++i)
+        std::cout << "  " << i + 1 << "  " << alert.buttons[i] << '\n';
+    for (std::string line; std::cout << "Type a number: " << std::flush && std::getline(std::cin, line);) {
+        std::size_t number = 0;
+        const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
+        if (error == std::errc() && end == line.data() + line.size() && number >= 1 && number <= last + 1)
+            return number - 1;
+    }
+    return last;
+}
+
+} // namespace tavrik
