@@ -87,14 +87,14 @@ TEST_F(CleanedRowsTest, TrustsARecordOnlyWhereItsRowsAreStillWhatItSays) {
              Case{"xs", 1, 2, lost},
              Case{"", 1, 2, lost, untouched},
              Case{"mh", 1, 2, "both", untouched},
-             Case{"mhx", 1, 2, "UPDATE apps SET bundleid = 'org.example.other' WHERE item_id = 2"},
-             Case{"mhx", 1, 3, ""},
-             Case{"mhx", 1, 3, "UPDATE apps SET bundleid = 'org.example.atlas' WHERE item_id = 3"},
-             Case{"mhx", 3, 2, ""},
-             Case{"mhx", 2, 2, ""},
-             Case{"mhx", 2, 1, ""},
-             Case{"mhx", 7, 2, ""},
-             Case{"mhx", 7, 2, lost, untouched},
+             Case{"mh", 1, 2, "UPDATE apps SET bundleid = 'org.example.other' WHERE item_id = 2"},
+             Case{"mh", 1, 3, ""},
+             Case{"mh", 1, 3, "UPDATE apps SET bundleid = 'org.example.atlas' WHERE item_id = 3"},
+             Case{"mh", 3, 2, ""},
+             Case{"mh", 2, 2, ""},
+             Case{"mh", 2, 1, ""},
+             Case{"mh", 7, 2, ""},
+             Case{"mh", 7, 2, lost, untouched},
          }) {
         SCOPED_TRACE(std::string(records) + " of " + std::to_string(original) + " and " +
                      std::to_string(wrapper) + ", " + meanwhile);
