@@ -80,30 +80,45 @@ Result<std::string> ThemeManager::freeName(const std::string& name, const std::v
     return trimmed;
 }
 
+Status ThemeManager::checkNewName(const std::string& name) const {
+    const auto free = freeName(name, listed());
+    return free ? Status(Done{}) : free.error();
+}
+
 Result<Theme> ThemeManager::createTheme(const std::string& name, bool moveActiveIcons) {
-    assertOffMainThread("Creating a theme");
-    const auto created = [&]() -> Result<Theme> {
-        const std::lock_guard lock(m_naming);
-        const std::vector<Theme> others = listed();
-        const auto free = freeName(name, others);
-        if (!free)
-            return free.error();
-        Theme theme{.themeID = drawThemeID(m_mac.random), .name = *free, .createdDate = m_mac.clock.now()};
-        while (isListed(others, theme.themeID))
-            theme.themeID = drawThemeID(m_mac.random);
-        if (const Status made = m_library.create(theme); !made)
-            return made.error();
-        change([&](std::vector<Theme>& list) { list.push_back(theme); });
-        return theme;
-    }();
-    if (!created) {
-        log("Error creating theme: " + created.error().description);
-        return created;
-    }
-    if (moveActiveIcons)
+    Result<Theme> created = makeTheme(name, {});
+    if (created && moveActiveIcons)
         moveSelectedIcons(*created);
-    log("Successfully created theme: " + created->name);
+    if (created)
+        log("Successfully created theme: " + created->name);
     return created;
+}
+
+Result<Theme> ThemeManager::createTheme(const std::string& name, const std::map<std::string, Bytes>& icons) {
+    Result<Theme> created = makeTheme(name, icons);
+    if (created)
+        log("Successfully created theme: " + created->name);
+    return created;
+}
+
+Result<Theme> ThemeManager::makeTheme(const std::string& name, const std::map<std::string, Bytes>& icons) {
+    assertOffMainThread("Creating a theme");
+    const std::lock_guard lock(m_naming);
+    const auto failed = [](const Error& error) {
+        log("Error creating theme: " + error.description);
+        return error;
+    };
+    const std::vector<Theme> others = listed();
+    const auto free = freeName(name, others);
+    if (!free)
+        return failed(free.error());
+    Theme theme{.themeID = drawThemeID(m_mac.random), .name = *free, .createdDate = m_mac.clock.now()};
+    while (isListed(others, theme.themeID))
+        theme.themeID = drawThemeID(m_mac.random);
+    if (const Status made = m_library.create(theme, icons); !made)
+        return failed(made.error());
+    change([&](std::vector<Theme>& list) { list.push_back(theme); });
+    return theme;
 }
 
 Status ThemeManager::updateTheme(const Theme& theme, const std::string& newName) {

@@ -68,6 +68,11 @@ public:
     /// The theme made; it is there without icons first. With `moveActiveIcons` the icons that the user has
     /// selected are copied into it; a copy that fails is logged and the theme stands.
     Result<Theme> createTheme(const std::string& name, bool moveActiveIcons);
+    /// The same with these icons, by file name; there whole or not at all.
+    Result<Theme> createTheme(const std::string& name, const std::map<std::string, Bytes>& icons);
+
+    /// Whether a new theme could have this name now; an error is the one that `createTheme` would give.
+    Status checkNewName(const std::string& name) const;
 
     /// Takes in a theme with these icons, content by file name. It keeps its date; its id, unless that is
     /// taken; and its name, unless another theme has it: then a number is added, "Ocean 2". There whole or not
@@ -100,6 +105,7 @@ public:
 
 private:
     void readThemes(); ///< with the lock held
+    Result<Theme> makeTheme(const std::string& name, const std::map<std::string, Bytes>& icons);
     void change(const std::function<void(std::vector<Theme>&)>& how);
     std::vector<Theme> listed() const;
     Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
