@@ -51,17 +51,6 @@ void addBundleID(CLI::App& command, std::string& bundleID) {
 
 } // namespace
 
-template<typename T, typename... Arguments>
-T& CommandLine::add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
-                    Arguments... arguments) {
-    auto command = std::make_unique<T>(arguments...);
-    T& added = *command;
-    m_commands.push_back(std::move(command));
-    declared = parent.add_subcommand(name, description);
-    declared->callback([this, &added] { m_chosen = &added; });
-    return added;
-}
-
 void CommandLine::addJson(CLI::App& command, bool& json) {
     command.add_flag_callback(
         "--json",
@@ -83,6 +72,7 @@ CommandLine::CommandLine()
     declareFonts();
     declareStaging();
     declareApplying();
+    declareThemes();
     declareWrappers();
     declareBackups();
     declarePractice();

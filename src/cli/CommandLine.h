@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace tavrik {
@@ -27,13 +28,24 @@ private:
     void declareFonts();
     void declareStaging();
     void declareApplying();
+    void declareThemes();
+    void declareThemeIcons(CLI::App& theme);
+    void declareThemeFiles(CLI::App& theme);
     void declareWrappers();
     void declareBackups();
     void declarePractice();
 
     template<typename T, typename... Arguments>
     T& add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
-           Arguments... arguments);
+           Arguments... arguments) {
+        auto command = std::make_unique<T>(arguments...);
+        T& added = *command;
+        m_commands.push_back(std::move(command));
+        declared = parent.add_subcommand(name, description);
+        declared->callback([this, &added] { m_chosen = &added; });
+        return added;
+    }
+
     void addJson(CLI::App& command, bool& json);
 
     CLI::App m_parser;

@@ -7,22 +7,21 @@ namespace tavrik {
 
 namespace {
 
-constexpr qint64 kLargestFile = 256 << 20;
-
 QString named(const HostPath& file) {
     return QString::fromStdString(file.string());
 }
 
 } // namespace
 
-Result<Bytes> readHostFile(const HostPath& file) {
+Result<Bytes> readHostFile(const HostPath& file, std::size_t most) {
     const QFileInfo info(named(file));
     if (!info.exists())
         return Error{"There is no file at " + file.string() + "."};
     if (!info.isFile())
         return Error{file.string() + " is not a plain file."};
-    if (info.size() > kLargestFile)
-        return Error{file.string() + " is larger than 256 MB; give a smaller picture."};
+    if (static_cast<std::size_t>(info.size()) > most)
+        return Error{file.string() + " is larger than " + std::to_string(most >> 20) +
+                     " MB; give a smaller one."};
     QFile opened(named(file));
     if (!opened.open(QIODevice::ReadOnly))
         return Error{file.string() + " cannot be read: " + opened.errorString().toStdString() + "."};

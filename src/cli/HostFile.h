@@ -4,12 +4,14 @@
 #include "platform/Path.h"
 #include "platform/Result.h"
 
+#include <cstddef>
+
 namespace tavrik {
 
 /// Files that a person names on the command line. Errors are sentences.
 
-/// A plain file of at most 256 MiB.
-Result<Bytes> readHostFile(const HostPath& file);
+/// A plain file of at most so many bytes.
+Result<Bytes> readHostFile(const HostPath& file, std::size_t most = 256u << 20);
 
 /// Replaces the file's content, or leaves what was there when that fails.
 Status writeHostFile(const HostPath& file, ByteView data);

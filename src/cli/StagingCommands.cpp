@@ -10,7 +10,11 @@ namespace tavrik {
 namespace {
 
 void sayInWords(Companion& companion, const StagedChanges& staged) {
-    const AppNames names = namesOf(companion.managers().apps.loadApplications());
+    AppNames names = namesOf(companion.managers().apps.loadApplications());
+    const bool namesThemes = !staged.pendingThemeIconHides.empty() ||
+                             !staged.pendingThemeIconDeletions.empty() || !staged.pendingThemeDeletions.empty();
+    for (const Theme& theme : namesThemes ? companion.managers().themes.library().load() : std::vector<Theme>())
+        names.emplace(theme.themeID, theme.name);
     for (const std::string& line : inWords(staged, names))
         companion.say(line);
 }

@@ -74,8 +74,8 @@ std::vector<std::string> inWords(const StagedChanges& staged, const AppNames& na
                         ".");
     }
 
-    const auto addTheme = [&lines](const std::string& themeID, const std::string& what) {
-        lines.push_back("Theme " + themeID + what);
+    const auto addTheme = [&](const std::string& themeID, const std::string& what) {
+        lines.push_back("Theme " + nameIn(names, themeID) + what);
     };
     for (const ThemeIconHide& hide : staged.pendingThemeIconHides)
         addTheme(hide.themeID, ": " + hide.iconFileName + " is to be hidden.");

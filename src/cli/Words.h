@@ -10,12 +10,12 @@ namespace tavrik {
 
 struct ApplicationInfo;
 
-/// Names of applications by bundle identifier.
+/// Names of applications by bundle identifier, and of themes by id.
 using AppNames = std::map<std::string, std::string>;
 
 AppNames namesOf(const std::vector<ApplicationInfo>& apps);
 
-/// The application's name, or its identifier where there is none.
+/// The name, or the identifier where there is none.
 const std::string& nameIn(const AppNames& names, const std::string& bundleID);
 
 /// "1 picture", "3 pictures".
