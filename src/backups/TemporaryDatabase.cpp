@@ -57,7 +57,7 @@ Status TemporaryDatabase::open(Bytes& database) {
                      std::ranges::all_of(journalMode, [](std::uint8_t mode) { return mode == kWriteAhead; });
     if (m_wasInWalMode)
         std::ranges::fill(journalMode, kRollback);
-    const Status created = m_mac.files.create(m_file, database);
+    Status created = m_mac.files.create(m_file, database);
     if (m_wasInWalMode)
         std::ranges::fill(journalMode, kWriteAhead);
     if (!created)
