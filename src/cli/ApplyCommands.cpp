@@ -1,11 +1,17 @@
 #include "cli/ApplyCommands.h"
 
 #include "changes/apply/ManualRefresh.h"
+#include "changes/apply/StoreChangeWords.h"
 #include "cli/Companion.h"
 #include "cli/Json.h"
 #include "cli/Staged.h"
 #include "cli/TerminalProgress.h"
 #include "cli/Words.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace tavrik {
 
@@ -36,12 +42,26 @@ void sayGroup(Companion& companion, const char* what, const std::vector<std::str
         companion.say(std::string(what) + listed(bundleIDs, names));
 }
 
+/// They are sorted by their kind.
+void sayChanges(Companion& companion, const std::vector<StoreChange>& changes, const AppNames& names) {
+    std::optional<StoreChange::Kind> kind;
+    for (const StoreChange& change : changes) {
+        if (kind != change.kind) {
+            kind = change.kind;
+            const auto count = std::ranges::count(changes, change.kind, &StoreChange::kind);
+            companion.say("\n" + headingOf(change.kind) + " (" + std::to_string(count) + ")");
+        }
+        companion.say("  " + inWords(change, nameIn(names, change.subject)));
+    }
+    if (!changes.empty())
+        companion.say("");
+}
+
 void sayPlan(Companion& companion, const ApplyPlan& plan, const AppNames& names) {
     sayGroup(companion, "Restyled for the first time: ", plan.created, names);
     sayGroup(companion, "Get another icon: ", plan.updated, names);
     sayGroup(companion, "Get their own look back: ", plan.removed, names);
-    for (const StoreChange& change : plan.changes)
-        companion.say("  " + inWords(change, nameIn(names, change.subject)));
+    sayChanges(companion, plan.changes, names);
     companion.say("A backup is taken before. The Dock is restarted " + counted(plan.dockRestarts(), "time") +
                   ".");
 }

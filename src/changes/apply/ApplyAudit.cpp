@@ -1,5 +1,7 @@
 #include "changes/apply/ApplyAudit.h"
 
+#include "changes/apply/StoreChangeWords.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -44,7 +46,8 @@ std::vector<Deviation> deviationsFrom(const ApplyPlan& plan, const ApplyStores& 
             const std::string bundleID = applicationOf(change, before);
             const bool isOpen = change.kind == Kind::title && plan.openTitles.contains(bundleID);
             if (!isOpen && !failedApps.contains(bundleID))
-                deviations.push_back({bundleID, inWords(change, change.subject) + what});
+                deviations.push_back(
+                    {bundleID, headingOf(change.kind) + ", " + inWords(change, change.subject) + what});
         }
     };
     report(missing, " (planned, and not so)");

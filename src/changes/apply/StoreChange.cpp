@@ -114,12 +114,6 @@ void noteThemes(Changes& changes, const ApplyStores& before, const ApplyStores& 
     }
 }
 
-std::string fromTo(const std::string& from, const std::string& to) {
-    if (from.empty())
-        return to;
-    return to.empty() ? from + " goes" : from + " -> " + to;
-}
-
 } // namespace
 
 std::string nameOf(Kind kind) {
@@ -163,40 +157,6 @@ std::vector<StoreChange> changesBetween(const ApplyStores& before, const ApplySt
     noteIcons(changes, before, after);
     noteThemes(changes, before, after);
     return changes.sorted();
-}
-
-std::string inWords(const StoreChange& change, const std::string& name) {
-    const std::string what = fromTo(change.from, change.to);
-    switch (change.kind) {
-    case Kind::iconFile:
-        return "Icon of " + name + ": " + what;
-    case Kind::selectedIcon:
-        return "Icon of " + name +
-               " in use: " + (change.to.empty() ? "its own" : "number " + change.to + " of its icons");
-    case Kind::wrapper:
-        return change.to.empty() ? "Wrapper " + change.from + " goes" : "Wrapper " + change.to + " is made";
-    case Kind::strayRow:
-        return "A row of a wrapper of " + name + (change.to.empty() ? " is gone" : " is left in Launchpad");
-    case Kind::shown:
-        return "Launchpad, in the place of " + name + ": " + what;
-    case Kind::place:
-        return "Place of " + name + " in Launchpad: " + what;
-    case Kind::title:
-        return "Title of " + name + ": " + what;
-    case Kind::folderTitle:
-        return "Folder: " + what;
-    case Kind::tile:
-        return "Dock, the tile of " + name + ": " + what;
-    case Kind::tileLabel:
-        return "Dock, the label of " + name + ": " + what;
-    case Kind::hiddenThemeIcon:
-        return "Theme " + name + " hides " + change.to;
-    case Kind::themeIcon:
-        return "Theme " + name + ": icon " + what;
-    case Kind::theme:
-        return "Theme " + name + " goes";
-    }
-    return {};
 }
 
 } // namespace tavrik

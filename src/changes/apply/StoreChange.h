@@ -40,7 +40,4 @@ std::string nameOf(StoreChange::Kind kind);
 /// Sorted. Pure.
 std::vector<StoreChange> changesBetween(const ApplyStores& before, const ApplyStores& after);
 
-/// For a person: "Title of Atlas: Atlas -> 𝐀𝐭𝐥𝐚𝐬". `name` is the subject's.
-std::string inWords(const StoreChange& change, const std::string& name);
-
 } // namespace tavrik
