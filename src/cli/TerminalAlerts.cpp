@@ -1,5 +1,7 @@
 #include "cli/TerminalAlerts.h"
 
+#include "cli/TerminalLog.h"
+
 #include <unistd.h>
 
 #include <charconv>
@@ -22,7 +24,7 @@ std::size_t TerminalAlerts::ask(const Alert& alert) {
         return 0;
     if (!isTerminal())
         return last;
-    std::cout << '\n' << alert.title << '\n' << alert.text << '\n';
+    std::cout << eraseLine() << '\n' << alert.title << '\n' << alert.text << '\n';
     for (std::size_t i = 0; i <= last && i < alert.buttons.size(); ++i)
         std::cout << "  " << i + 1 << "  " << alert.buttons[i] << '\n';
     for (std::string line; std::cout << "Type a number: " << std::flush && std::getline(std::cin, line);) {

@@ -25,7 +25,8 @@ bool isReadByAPerson(std::FILE* stream) {
     return ::isatty(STDOUT_FILENO) == 1 && ::isatty(::fileno(stream)) == 1;
 }
 
-bool canDim() {
+/// Dimming, and erasing a line.
+bool knowsControls() {
     const std::string_view terminal = variable("TERM");
     return variable("NO_COLOR").empty() && !terminal.empty() && terminal != "dumb";
 }
@@ -33,16 +34,20 @@ bool canDim() {
 } // namespace
 
 void sendLogTo(std::FILE* stream) {
-    if (isReadByAPerson(stream) && canDim())
+    if (isReadByAPerson(stream) && knowsControls())
         setLogStream(stream, kFaint, kPlain);
     else
         setLogStream(stream);
 }
 
-bool setLogAbove(std::string_view erase) {
-    if (!isReadByAPerson(stdout) || !canDim())
+std::string_view eraseLine() {
+    return isReadByAPerson(stdout) && knowsControls() ? "\r\033[K" : "";
+}
+
+bool setLogAboveLine() {
+    if (eraseLine().empty())
         return false;
-    setLogStream(stdout, std::string(erase).append(kFaint), kPlain);
+    setLogStream(stdout, std::string(eraseLine()).append(kFaint), kPlain);
     return true;
 }
 

@@ -10,8 +10,12 @@ namespace tavrik {
 /// knows no such thing. Files and other programs get the lines as they stand.
 void sendLogTo(std::FILE* stream);
 
-/// For a line that is kept below the log on standard output: `erase` is printed before each log line. False,
-/// with nothing changed, when no person reads it at a terminal that can.
-bool setLogAbove(std::string_view erase);
+/// Begins the terminal's line anew, emptied. Nothing when no person reads standard output at a terminal that
+/// can.
+std::string_view eraseLine();
+
+/// For a line that is kept below the log on standard output: erases it before each log line. False, with
+/// nothing changed, when no line can be erased.
+bool setLogAboveLine();
 
 } // namespace tavrik

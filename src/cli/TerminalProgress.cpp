@@ -11,7 +11,6 @@ namespace tavrik {
 namespace {
 
 constexpr int kWidth = 30; ///< characters of the bar
-constexpr const char* kEraseLine = "\r\033[K";
 
 std::string barOf(double value, double total) {
     const double part = total > 0 ? std::clamp(value / total, 0.0, 1.0) : 0.0;
@@ -25,7 +24,7 @@ std::string barOf(double value, double total) {
 } // namespace
 
 TerminalProgress::TerminalProgress(ProgressOverlayManager& progress, NotificationCenter& notifications)
-    : m_isShown(setLogAbove(kEraseLine)) {
+    : m_isShown(setLogAboveLine()) {
     if (m_isShown)
         m_observation =
             notifications.observe(std::string(kProgressUpdated), [this, &progress] { update(progress); });
@@ -57,7 +56,7 @@ void TerminalProgress::draw() {
     if (!m_isShown)
         return;
     const std::lock_guard lock(m_mutex);
-    std::fprintf(stdout, "%s%s", kEraseLine, m_line.c_str());
+    std::fprintf(stdout, "%s%s", eraseLine().data(), m_line.c_str());
     std::fflush(stdout);
 }
 
