@@ -13,10 +13,9 @@ class FontReplacer;
 
 /// How a picture was matched to an application, the surest first.
 enum class MatchKind {
-    identifier, ///< the file is named by the bundle identifier
-    name,       ///< by the application's name exactly
-    foldedName, ///< by its name but for case, accents, styles, punctuation and version words; or by the last
-                ///< part of an identifier
+    identifier,  ///< the file is named by the bundle identifier
+    name,        ///< by the application's name exactly
+    foldedName,  ///< but for case, accents, styles, punctuation, version words; or by the end of an identifier
     subsequence, ///< its letters occur in the name in order: a guess, scored
 };
 
@@ -41,7 +40,7 @@ struct IconMatches {
 
 /// Finds an application for each picture by the picture's file name without its extension. Pure; any thread.
 /// The same input gives the same matches, whatever its order: by application, the unmatched by file name. Takes
-/// half a second for 5,000 files and 300 applications.
+/// well under a second for 5,000 files and 300 applications.
 IconMatches matchIcons(const std::vector<std::string>& fileNames, const std::vector<ApplicationInfo>& apps,
                        const FontReplacer& fonts);
 
