@@ -31,14 +31,15 @@ protected:
 
     int random(int below) { return std::uniform_int_distribution(0, below - 1)(m_random); }
 
+    int anyKind() { return random(28); }
+
     /// One step on the program and on the model. A killed program's answers mean nothing.
-    void step(Model& model) {
+    void step(Model& model, int kind) {
         const std::string& bundleID = kApps[static_cast<std::size_t>(random(2))];
         Row& row = model.rows[bundleID];
         const int count = static_cast<int>(row.shown.size());
         const int place = count == 0 ? -1 : random(count);
         const int icon = place < 0 ? -1 : row.shown[static_cast<std::size_t>(place)];
-        const int kind = random(count > 6 ? 20 : 28);
         m_isApply = kind < 2;
         if (kind < 3) {
             if (m_isApply)
@@ -64,7 +65,7 @@ protected:
             changes().removeIcon(bundleID, place);
             std::erase(row.shown, icon);
             row.chosen = row.chosen == icon ? -1 : row.chosen;
-        } else {
+        } else if (count < 7) {
             add(++m_lastIcon, bundleID);
             row.shown.push_back(m_lastIcon);
             row.chosen = m_lastIcon;
@@ -98,11 +99,15 @@ protected:
         return text.str();
     }
 
-    /// Kills the program within the step, starts it again, and tells which side of the step it is on.
+    /// Kills the program within the step, often an apply, and within the recovery; starts it again, and tells
+    /// which side of the step it is on.
     void killedStep(Model& model) {
         Model after = model;
         files.failAt(static_cast<std::size_t>(1 + random(60)), EIO, Times::forGood);
-        step(after);
+        step(after, random(3) == 0 ? 0 : anyKind());
+        restart();
+        files.failAt(static_cast<std::size_t>(1 + random(90)), EIO, Times::forGood);
+        changes().recover();
         recover();
         const std::string fromBefore = difference(model);
         const std::string fromAfter = difference(after);
@@ -134,7 +139,7 @@ TEST_F(Histories, NothingIsLostByKills) {
         Model model;
         for (int i = 0; i < 30 && !HasFailure(); ++i) {
             SCOPED_TRACE("history " + std::to_string(history) + ", step " + std::to_string(i));
-            random(6) == 0 ? killedStep(model) : step(model);
+            random(6) == 0 ? killedStep(model) : step(model, anyKind());
             EXPECT_EQ(difference(model), "");
         }
         if (const auto content = files.read(changes().tempFileURL(), 1 << 20)) {
