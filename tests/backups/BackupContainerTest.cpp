@@ -12,22 +12,15 @@
 #include <gtest/gtest.h>
 
 namespace tavrik {
-
 namespace {
 
 struct FixedRandom : Random {
     Bytes bytes(std::size_t count) override { return Bytes(count, 0xA5); }
 };
 
-Bytes text(std::size_t size) {
-    Bytes bytes(size);
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[i] = static_cast<std::uint8_t>((i * 2654435761) >> 16);
-    return bytes;
-}
+struct BackupContainerTest : testing::Test {
+    Bytes text(std::size_t size) { return m_random.bytes(size); }
 
-class BackupContainerTest : public testing::Test {
-protected:
     bool isRefused(Bytes container) {
         m_log.clear();
         return !m_container.open(std::move(container)) && m_log.lines().size() == 1 &&
@@ -39,8 +32,6 @@ protected:
     SystemRandom m_random;
     const BackupContainer m_container{m_machine, m_random};
 };
-
-} // namespace
 
 TEST_F(BackupContainerTest, IsTheOneThatAnotherLibraryMakes) {
     FixedRandom fixed;
@@ -57,17 +48,17 @@ TEST_F(BackupContainerTest, OpensToWhatWasSealedInTheSameMemory) {
     for (const std::size_t size : {0ul, 1ul, 11ul, 12ul, 13ul, kPiece - 1, kPiece, kPiece + 1, kPiece + 12,
                                    kPiece + 13, 3 * kPiece - 5, 5 * kPiece, 1000003ul}) {
         for (const std::size_t room : {0ul, BackupContainer::kOverhead}) {
-            Bytes archive = text(size);
-            archive.reserve(size + room);
-            const auto* memory = archive.data();
-            auto sealed = m_container.seal(std::move(archive));
-            ASSERT_TRUE(sealed);
-            EXPECT_EQ(sealed->size(), size + BackupContainer::kOverhead);
+            const Bytes archive = text(size);
+            Bytes roomy = archive;
+            roomy.reserve(size + room);
+            const auto* memory = roomy.data();
+            auto sealed = m_container.seal(std::move(roomy));
+            ASSERT_TRUE(sealed && sealed->size() == size + BackupContainer::kOverhead);
             EXPECT_TRUE(room == 0 || sealed->data() == memory) << "copied";
             memory = sealed->data();
-            EXPECT_NE(sealed, m_container.seal(text(size))) << "a nonce of its own";
+            EXPECT_NE(sealed, m_container.seal(archive)) << "a nonce of its own";
             const auto opened = m_container.open(std::move(*sealed));
-            ASSERT_TRUE(opened && *opened == text(size)) << size;
+            ASSERT_TRUE(opened && *opened == archive) << size;
             EXPECT_EQ(opened->data(), memory) << "copied";
         }
     }
@@ -83,30 +74,24 @@ TEST_F(BackupContainerTest, DoesNotOpenWithAnyByteFlippedOrAnyLengthCutOrElsewhe
     }
     m_machine.serial = "C02TAVRIK002";
     EXPECT_TRUE(isRefused(sealed));
-}
 
-TEST_F(BackupContainerTest, NeitherSealsNorOpensWithoutASerialNumber) {
     m_machine.serial.reset();
-    EXPECT_FALSE(m_container.seal(text(10)));
-    EXPECT_FALSE(m_container.open(text(100)));
+    m_log.clear();
+    EXPECT_FALSE(m_container.seal(text(10)) || m_container.open(sealed));
     EXPECT_THAT(m_log.lines(),
                 testing::ElementsAre("Failed to get device serial", "Failed to derive encryption key",
                                      "Failed to get device serial", "Failed to derive backup key"));
 }
 
 TEST_F(BackupContainerTest, TakesAnArchiveWithoutCopyingIt) {
-    const ArchiveMembers members{{kDockMember, text(5000)}, {kLaunchpadMember, text(70000)}, {"empty", {}}};
-    auto archive = createArchive(members);
-    ASSERT_TRUE(archive && textOf(*archive).starts_with("bplist00"));
+    auto archive = createArchive({{kDockMember, text(5000)}, {kLaunchpadMember, text(70000)}});
     const auto* memory = archive->data();
-    auto sealed = m_container.seal(std::move(*archive));
-    ASSERT_TRUE(sealed && sealed->data() == memory);
-    EXPECT_EQ(extractArchive(*m_container.open(std::move(*sealed))), members);
-
+    EXPECT_EQ(m_container.seal(std::move(*archive))->data(), memory);
     EXPECT_FALSE(createArchive({{"not\xFFUTF-8", {}}}));
     EXPECT_TRUE(m_log.lines().back().starts_with("Failed to create archive: "));
     EXPECT_FALSE(extractArchive(*plist::serialize(plist::Dictionary{{"a", "text"}}, plist::Format::binary)));
     EXPECT_TRUE(m_log.lines().back().starts_with("Failed to extract archive: "));
 }
 
+} // namespace
 } // namespace tavrik

@@ -1,148 +1,97 @@
-#include "backups/BackupContents.h"
-
+#include "BackupStage.h"
 #include "backups/BackupArchive.h"
-#include "backups/BackupContainer.h"
 #include "platform/ChildProcess.h"
+#include "platform/Machine.h"
 #include "platform/PropertyList.h"
-#include "platform/SqliteCopy.h"
-#include "practice/furnish/LaunchpadDatabaseBuilder.h"
-#include "support/FileTree.h"
-#include "support/LogRecorder.h"
-#include "support/NumberedMachine.h"
-#include "support/SmallMac.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
-namespace tavrik {
-
+namespace tavrik::test {
 namespace {
 
-constexpr const char* kSerial = "C02TAVRIK001";
-
-Bytes dockPlist() {
-    const auto tile = [](const char* label) {
-        return plist::Dictionary{{"tile-data", plist::Dictionary{{"file-label", label}}}};
-    };
-    return *plist::serialize(
-        plist::Dictionary{{"persistent-apps", plist::Array{tile("Atlas"), tile("Ƈompass")}}},
-        plist::Format::binary);
-}
+using testing::HasSubstr;
 
 std::string digest(const Bytes& bytes) {
     const QByteArray data(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
     return QCryptographicHash::hash(data, QCryptographicHash::Sha256).toHex().toStdString();
 }
 
-class BackupContentsTest : public testing::Test {
-protected:
-    Bytes sealed(const ArchiveMembers& members) { return *m_container.seal(*createArchive(members)); }
+struct BackupContentsTest : BackupStage {
+    Bytes sealed(const ArchiveMembers& members) const { return *container.seal(*createArchive(members)); }
 
-    /// As the Dock keeps it, the write-ahead mode in its header.
-    Bytes makeDatabase() {
-        practice::LaunchpadDatabaseBuilder builder(m_file);
-        const auto page = builder.addPage();
-        for (const char* title : {"Atlas", "𝓒ompass"})
-            builder.addApp(page, {title, "com.example.a", Bytes(300, 7), {}, {}});
-        EXPECT_TRUE(builder.finish());
-        return *sqlite::copyOf(m_file);
-    }
-
-    BackupReading read(const ArchiveMembers& members) { return read(sealed(members)); }
-
-    BackupReading read(ByteView file) {
-        EXPECT_TRUE(m_mac.files.write(m_backup, file));
-        return readBackup(m_mac.files, m_container, m_backup);
-    }
-
-    static std::optional<BackupFault> faultOf(const BackupReading& reading) {
-        const auto* fault = std::get_if<BackupFault>(&reading);
-        return fault ? std::optional(*fault) : std::nullopt;
-    }
-
-    test::SmallMac m_mac;
-    test::LogRecorder m_log;
-    test::NumberedMachine m_machine{kSerial};
-    const BackupContainer m_container{m_machine, m_mac.mac.random};
-    const MacPath m_backup{"/one.encrypted"};
-    const HostPath m_file = m_mac.mac.volume.hostPath(MacPath("/db"));
-    const BackupContents m_sound{dockPlist(), makeDatabase()};
+    const BackupContainer container{mac.machine, mac.random};
+    const BackupContents sound = live();
+    const MacPath file = practice::kHome / "one.encrypted";
 };
 
-} // namespace
-
-TEST_F(BackupContentsTest, AreReadBackAndNothingIsLeft) {
-    const auto reading =
-        read({{kDockMember, m_sound.dockPlist}, {kLaunchpadMember, m_sound.launchpadDatabase}});
-    const auto* contents = std::get_if<BackupContents>(&reading);
-    ASSERT_TRUE(contents);
-    EXPECT_EQ(contents->dockPlist, m_sound.dockPlist);
-    EXPECT_EQ(contents->launchpadDatabase, m_sound.launchpadDatabase);
-    EXPECT_THAT(test::treeOf(m_mac.folder.path()),
-                testing::ElementsAre(testing::Key("db"), testing::Key("one.encrypted")));
-    EXPECT_THAT(m_log.lines(), testing::IsEmpty());
-}
-
-TEST_F(BackupContentsTest, AreRefusedForTheFirstFaultFound) {
-    const auto& [dock, database] = m_sound;
-    auto other = sqlite::Connection::open(m_mac.folder.path() / "other", sqlite::OpenMode::readWriteCreate);
+TEST_F(BackupContentsTest, AreRefusedForTheFirstFaultFoundAndARestoreTouchesNothing) {
+    const auto& [dock, launchpad] = sound;
+    auto other = sqlite::Connection::open(volume.host(MacPath("/other")), sqlite::OpenMode::readWriteCreate);
     ASSERT_TRUE(
         other->execute("CREATE TABLE items (a); CREATE TABLE apps (a); CREATE VIEW groups AS SELECT 1"));
-    const Bytes otherDatabase = *sqlite::copyOf(m_mac.folder.path() / "other");
-    Bytes damaged = database;
+    const Bytes otherDatabase = *launchpadAt(MacPath("/other"));
+    Bytes damaged = launchpad;
     std::fill(damaged.end() - 4096, damaged.end(), std::uint8_t{0xFF}); // its last page
+    Bytes flipped = sealed({{kDockMember, dock}, {kLaunchpadMember, launchpad}});
+    flipped[20] ^= 1;
     const Bytes array = *plist::serialize(plist::Array{}, plist::Format::xml);
+    const auto pair = [&](const Bytes& first, const Bytes& second) {
+        return sealed({{kDockMember, first}, {kLaunchpadMember, second}});
+    };
+
+    const std::string sealing = "❌ Failed to decrypt backup", archive = "❌ Failed to extract backup archive";
+    const std::string damage = "❌ Failed to restore backup files: ";
 
     const struct {
         const char* name;
-        BackupFault fault;
-        BackupReading reading;
+        std::optional<Bytes> content;
+        const char* sentence;
+        std::string line;
     } cases[] = {
-        {"sealed elsewhere", BackupFault::sealed, read(Bytes(500, 1))},
-        {"cut short", BackupFault::sealed, read(Bytes(27))},
-        {"no list", BackupFault::noArchive, read(*m_container.seal(Bytes(500, 1)))},
-        {"an array", BackupFault::noArchive, read(*m_container.seal(array))},
-        {"nothing in it", BackupFault::noDockPlist, read(ArchiveMembers())},
-        {"one member", BackupFault::noDatabase, read({{kDockMember, dock}})},
-        {"an array as the Dock's", BackupFault::damagedDockPlist,
-         read({{kDockMember, array}, {kLaunchpadMember, database}})},
-        {"both empty", BackupFault::damagedDockPlist, read({{kDockMember, {}}, {kLaunchpadMember, {}}})},
-        {"no bytes", BackupFault::damagedDatabase, read({{kDockMember, dock}, {kLaunchpadMember, {}}})},
-        {"another database", BackupFault::damagedDatabase,
-         read({{kDockMember, dock}, {kLaunchpadMember, otherDatabase}})},
-        {"a damaged page", BackupFault::damagedDatabase,
-         read({{kDockMember, dock}, {kLaunchpadMember, damaged}})},
+        {"missing", {}, "cannot be read", sealing},
+        {"cut short", Bytes(27), "is damaged, cut short", sealing},
+        {"flipped", flipped, "is damaged, cut short", sealing},
+        {"no list", *container.seal(Bytes(500, 1)), "opens, but what is in it is no archive", archive},
+        {"an array", *container.seal(array), "opens, but what is in it is no archive", archive},
+        {"nothing in it", sealed({}), "holds no Dock", "❌ Dock plist not found in backup"},
+        {"one member", sealed({{kDockMember, dock}}), "holds no L",
+         "❌ Launchpad database not found in backup"},
+        {"an array as the Dock's", pair(array, launchpad), "The Dock preferences in", damage},
+        {"both empty", pair({}, {}), "The Dock preferences in", damage},
+        {"no bytes", pair(dock, {}), "The Launchpad database in", damage},
+        {"another database", pair(dock, otherDatabase), "The Launchpad database in", damage},
+        {"a damaged page", pair(dock, damaged), "The Launchpad database in", damage},
     };
 
-    for (const auto& each : cases)
-        EXPECT_EQ(faultOf(each.reading), each.fault) << each.name;
-}
-
-TEST_F(BackupContentsTest, AreNotReadFromAFileThatIsMissingOrBeyondTheLimit) {
-    EXPECT_EQ(faultOf(readBackup(m_mac.files, m_container, m_backup)), BackupFault::unreadable);
-    ASSERT_TRUE(m_mac.files.write(m_backup, {}));
-    std::filesystem::resize_file(m_mac.mac.volume.hostPath(m_backup).string(), FileManager::kLargestRead + 1);
-    EXPECT_EQ(faultOf(readBackup(m_mac.files, m_container, m_backup)), BackupFault::unreadable);
-    EXPECT_EQ(m_log.count("Failed to read backup file"), 2);
+    for (const auto& [name, content, sentence, line] : cases) {
+        SCOPED_TRACE(name);
+        if (content)
+            put(file, *content);
+        const FileTree before = treeOf(volume.root());
+        const std::string found = inWords(std::get<BackupFault>(backups().readBackup(file)));
+        EXPECT_THAT(found, HasSubstr(sentence));
+        EXPECT_EQ(backups().restoreBackup(file).error().description, found);
+        EXPECT_EQ(log.lines().back(), line == damage ? line + found : line);
+        EXPECT_THAT(differences(before, treeOf(volume.root())), testing::IsEmpty());
+    }
+    std::filesystem::resize_file(volume.host(file).string(), FileManager::kLargestRead + 1);
+    EXPECT_EQ(std::get<BackupFault>(backups().readBackup(file)), BackupFault::unreadable);
 }
 
 TEST_F(BackupContentsTest, AreWhatAnotherReaderOfTheFormatFinds) {
-    const auto& [dock, database] = m_sound;
-    ASSERT_TRUE(m_mac.files.write(m_backup, sealed({{kDockMember, dock}, {kLaunchpadMember, database}})));
-    const auto script = runChild(HostPath("/usr/bin/python3"),
-                                 {OPEN_BACKUP, m_mac.mac.volume.hostPath(m_backup).string(), kSerial}, {});
+    const auto& [dock, launchpad] = sound;
+    put(file, sealed({{kDockMember, dock}, {kLaunchpadMember, launchpad}}));
+    const auto script =
+        runChild(HostPath("/usr/bin/python3"),
+                 {OPEN_BACKUP, volume.host(file).string(), mac.machine.serialNumber().value()}, {});
     ASSERT_TRUE(script);
-    EXPECT_EQ(
-        script->output,
-        R"({"dock": ["Atlas", "\u0187ompass"], "integrity": "ok", "launchpad": ["Atlas", "\ud835\udcd2ompass"], )"
-        R"("members": {"com.apple.dock.plist": ")" +
-            digest(dock) + R"(", "launchpad.db": ")" + digest(database) + "\"}}")
-        << script->errors;
+    EXPECT_THAT(script->output, HasSubstr(R"("integrity": "ok", "launchpad": ["Safari", )")) << script->errors;
+    EXPECT_THAT(script->output, HasSubstr(R"("members": {"com.apple.dock.plist": ")" + digest(dock) +
+                                          R"(", "launchpad.db": ")" + digest(launchpad) + "\"}}"));
 }
 
-} // namespace tavrik
+} // namespace
+} // namespace tavrik::test

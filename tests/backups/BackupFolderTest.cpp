@@ -25,12 +25,13 @@ const std::string kOriginal = BackupFolder::kOriginalState;
 /// A folder of backups in virtual time, two hours east of Greenwich.
 class BackupFolderTest : public testing::Test {
 protected:
-    BackupFolderTest() { setZone("TST-2"); }
+    BackupFolderTest() {
+        setenv("TZ", "TST-2", 1);
+        tzset();
+    }
 
-    ~BackupFolderTest() override { setZone(nullptr); }
-
-    static void setZone(const char* zone) {
-        zone ? setenv("TZ", zone, 1) : unsetenv("TZ");
+    ~BackupFolderTest() override {
+        unsetenv("TZ");
         tzset();
     }
 
@@ -73,8 +74,7 @@ TEST_F(BackupFolderTest, NamesBackupsByTheLocalTimeAndWaitsForANewName) {
     for (const Names& last = all(); const std::string& name : last)
         EXPECT_EQ(content(name), name == kOriginal ? "first" : MacPath(name).stem());
 
-    // Whatever is there keeps its name: a link to nothing, a folder, and a backup that appears at the last
-    // moment.
+    // Whatever is there keeps its name: a link to nothing, a folder, a backup that appears at the last moment.
     ASSERT_TRUE(files.createLink(at("2026-05-09_08-13-23.encrypted"), "nowhere"));
     ASSERT_TRUE(files.createFolder(at("2026-05-09_08-13-24.encrypted")));
     small.clock.sleep(1000ms);
@@ -133,59 +133,50 @@ TEST_F(BackupFolderTest, RefusesFoldersThatAreLinks) {
     }
 }
 
-struct Rotation {
-    const char* what;
-    Names before; ///< the oldest first
-    std::int64_t keep;
-    Names after; ///< what was made the original state under its first name
-    std::string madeOriginal{};
-    Names spared{};
-    std::string cannotDelete{};
-};
-
 TEST_F(BackupFolderTest, RotatesByAge) {
-    const std::vector<Rotation> cases{
+    const struct {
+        const char* what;
+        Names before; ///< the oldest first
+        std::int64_t keep;
+        Names after; ///< what was made the original state under its first name
+        std::string madeOriginal{};
+        std::string spared{};
+        std::string cannotDelete{};
+    } cases[] = {
         {"the oldest goes", {kOriginal, "z", "b", "c"}, 2, {kOriginal, "b", "c"}},
         {"however new the original state is", {"z", "b", "c", kOriginal}, 2, {kOriginal, "b", "c"}},
         {"one at least stays", {kOriginal, "a", "b"}, -7, {kOriginal, "b"}},
         {"the original state was deleted", {"c", "b", "a"}, 5, {"c", "b", "a"}, "c"},
         {"after the old ones went", {"c", "b", "a"}, 2, {"b", "a"}, "b"},
         {"none", {}, 1, {}},
-        {"spared", {kOriginal, "a", "b", "c"}, 1, {kOriginal, "a", "c"}, "", {"a"}},
-        {"spared as the original state", {"a", "b", "c"}, 1, {"a", "c"}, "", {"a"}},
-        {"not to be deleted", {kOriginal, "a", "b", "c"}, 1, {kOriginal, "a", "c"}, "", {}, "a"},
-        {"nor made newer", {"a", "b", "c"}, 1, {"a", "c"}, "a", {}, "a"},
+        {"spared", {kOriginal, "a", "b", "c"}, 1, {kOriginal, "a", "c"}, "", "a"},
+        {"spared as the original state", {"a", "b", "c"}, 1, {"a", "c"}, "", "a"},
+        {"not to be deleted", {kOriginal, "a", "b", "c"}, 1, {kOriginal, "a", "c"}, "", "", "a"},
+        {"nor made newer", {"a", "b", "c"}, 1, {"a", "c"}, "a", "", "a"},
     };
-    for (const Rotation& each : cases) {
-        SCOPED_TRACE(each.what);
-        const auto full = [](const std::string& name) {
-            return name == kOriginal ? name : name + ".encrypted";
-        };
+
+    const auto full = [](const std::string& name) { return name == kOriginal ? name : name + ".encrypted"; };
+    for (const auto& [what, before, keep, after, madeOriginal, spared, cannotDelete] : cases) {
+        SCOPED_TRACE(what);
         ignoreFailure(files.remove(folder.path()));
         ASSERT_TRUE(files.createFolder(folder.path()));
-        for (std::size_t day = 0; day < each.before.size(); ++day)
-            put(full(each.before[day]), static_cast<double>(day));
-        std::set<MacPath> spared;
-        for (const std::string& name : each.spared)
-            spared.insert(at(full(name)));
+        for (std::size_t day = 0; day < before.size(); ++day)
+            put(full(before[day]), static_cast<double>(day));
         log.clear();
-        if (!each.cannotDelete.empty())
-            files.failOn("remove", at(full(each.cannotDelete)), EPERM);
-        folder.rotate(each.keep, spared);
+        files.failOn("remove", at(full(cannotDelete)), EPERM);
+        folder.rotate(keep, {at(full(spared))});
         files.failNothing();
 
         Names expected;
-        for (const std::string& name : each.after)
-            expected.push_back(name == each.madeOriginal ? kOriginal : full(name));
+        for (const std::string& name : after)
+            expected.push_back(name == madeOriginal ? kOriginal : full(name));
         EXPECT_THAT(all(), UnorderedElementsAreArray(expected));
-        EXPECT_EQ(log.mentions("Failed to delete old backup: "), !each.cannotDelete.empty());
-        if (!each.madeOriginal.empty()) {
-            EXPECT_EQ(content(kOriginal), full(each.madeOriginal));
-            EXPECT_TRUE(log.has("♻️ Renamed oldest backup to Original State: " + full(each.madeOriginal)));
-        }
-        for (const std::string& name : each.before)
-            EXPECT_EQ(log.has("🗑️ Deleted old backup: " + full(name)),
-                      std::ranges::count(each.after, name) == 0);
+        EXPECT_EQ(log.mentions("Failed to delete old backup: "), !cannotDelete.empty());
+        EXPECT_TRUE(madeOriginal.empty() || content(kOriginal) == full(madeOriginal));
+        EXPECT_EQ(log.has("♻️ Renamed oldest backup to Original State: " + full(madeOriginal)),
+                  !madeOriginal.empty());
+        for (const std::string& name : before)
+            EXPECT_EQ(log.has("🗑️ Deleted old backup: " + full(name)), std::ranges::count(after, name) == 0);
     }
 }
 

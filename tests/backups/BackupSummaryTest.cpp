@@ -1,19 +1,10 @@
-#include "backups/BackupSummary.h"
-
-#include "platform/PathRules.h"
-#include "platform/PosixFileManager.h"
+#include "BackupStage.h"
 #include "platform/PropertyList.h"
-#include "platform/SqliteCopy.h"
-#include "platform/practice/Layout.h"
 #include "practice/furnish/SampleApps.h"
-#include "support/practice/PracticeVolume.h"
-
-#include <gmock/gmock.h>
 
 #include <sstream>
 
-namespace tavrik {
-
+namespace tavrik::test {
 namespace {
 
 using testing::HasSubstr;
@@ -71,13 +62,11 @@ plist::Value tile(plist::Dictionary data) {
     return plist::Dictionary{{"tile-data", std::move(data)}};
 }
 
-} // namespace
+using Summary = BackupStage;
 
-TEST(Summary, TellsThePagesAndTheTilesOfAPair) {
-    const test::PracticeVolume volume;
-    BackupContents contents{*PosixFileManager(volume.root()).read(dockPreferencesPath(practice::kHome)),
-                            *sqlite::copyOf(volume.launchpadDatabase())};
-    auto summary = summaryOf(contents);
+TEST_F(Summary, TellsThePagesAndTheTilesOfAPair) {
+    BackupContents contents = live();
+    const auto summary = summaryOf(contents);
     ASSERT_TRUE(summary) << summary.error().description;
     EXPECT_EQ(std::get<Application>(summary->launchpad.pages.at(0).at(1)).title, "Mail");
     const auto pinned = practice::sampleDockApps();
@@ -123,16 +112,16 @@ TEST(Differences, AreWhatAPersonWouldSeeOfThem) {
     };
 
     for (const auto& [what, before, after, told] : pages)
-        EXPECT_EQ(inShort(differences({pagesOf(before), {}}, {pagesOf(after), {}})), told) << what;
+        EXPECT_EQ(inShort(tavrik::differences({pagesOf(before), {}}, {pagesOf(after), {}})), told) << what;
 
-    const Tiles abc{{"A", "x"}, {"B", "y"}, {"C", "z"}};
-    EXPECT_EQ(inShort(differences({{}, abc}, {{}, abc})), "");
-    EXPECT_EQ(inShort(differences({{}, abc}, {{}, {{"C", "z"}, {"N", "n"}, {"A", "x"}}})), "<B >N order");
-    EXPECT_EQ(inShort(differences({{}, abc}, {{}, {{"A", "x"}, {"", "n"}, {"Styled B", "y"}, {"C", "z"}}})),
-              ">n");
-    EXPECT_EQ(
-        inShort(differences({{}, {{"Stack", ""}, {"A", "x"}, {"A", "x"}}}, {{}, {{"Stack", ""}, {"A", "x"}}})),
-        "<A");
+    const Tiles abc{{"A", "x"}, {"B", "y"}, {"C", "z"}}, twice{{"S", ""}, {"A", "x"}, {"A", "x"}};
+    for (const auto& [before, after, told] : std::vector<std::tuple<Tiles, Tiles, const char*>>{
+             {abc, abc, ""},
+             {abc, {{"C", "z"}, {"N", "n"}, {"A", "x"}}, "<B >N order"},
+             {abc, {{"A", "x"}, {"", "n"}, {"Styled B", "y"}, {"C", "z"}}, ">n"},
+             {twice, {{"S", ""}, {"A", "x"}}, "<A"}})
+        EXPECT_EQ(inShort(tavrik::differences({{}, before}, {{}, after})), told);
 }
 
-} // namespace tavrik
+} // namespace
+} // namespace tavrik::test

@@ -20,19 +20,21 @@ protected:
     }
 
     void repoint() {
-        for (const PinnedTile& tile : volume.pinnedTiles()) {
-            if (tile.bundleID != kAtlas && tile.bundleID != "com.apple.iCal")
-                continue;
-            const MacPath bundle = wrapper.parent() / tile.path.name();
+        for (const MacPath& app : {atlas, MacPath("/System/Applications/Calendar.app")}) {
+            const MacPath bundle = wrapper.parent() / app.name();
             ASSERT_TRUE(mac.files.createFolder(bundle));
-            ignoreFailure(mac.files.createLink(bundle / "Contents", (tile.path / "Contents").string()));
-            ASSERT_TRUE(program->dock.updateDockEntry(tile.bundleID, bundle));
+            ignoreFailure(mac.files.createLink(bundle / "Contents", (app / "Contents").string()));
+            ASSERT_TRUE(program->dock.updateDockEntry(app == atlas ? kAtlas : "com.apple.iCal", bundle));
         }
     }
 
     Bytes clean(const Bytes& dock) {
-        DockCleaning cleaning(mac, program->settings, program->database, fonts().fontReplacer());
-        return cleaning.clean(dock);
+        return DockCleaning(mac, program->settings, program->database, fonts().fontReplacer()).clean(dock);
+    }
+
+    void linkWrapperTo(const std::string& target) {
+        ignoreFailure(mac.files.remove(wrapper / "Contents"));
+        ASSERT_TRUE(mac.files.createLink(wrapper / "Contents", target));
     }
 
     /// The tile for Atlas after a cleaning of the Dock as it is.
@@ -70,38 +72,33 @@ TEST_F(DockCleaningTest, GivesTheDockThatWasThereBefore) {
     }
 }
 
-TEST_F(DockCleaningTest, FindsTheOriginalWithoutASavedBookmark) {
-    repoint();
+TEST_F(DockCleaningTest, FindsTheOriginalByTheSavedBookmarkTheLinkOrTheName) {
     const MacPath elsewhere("/Volumes/Disk/Atlas.app");
     ASSERT_TRUE(mac.files.createFolder(elsewhere));
-    ASSERT_TRUE(mac.files.setModified(atlas, Date{1234.75}));
-    ASSERT_TRUE(mac.files.setModified(elsewhere, Date{1234.75}));
+    for (const MacPath& path : {atlas, elsewhere})
+        ASSERT_TRUE(mac.files.setModified(path, Date{1234.75}));
+    repoint();
+    const DockBookmark saved = *program->settings.getDockBookmark(kAtlas);
     program->settings.removeDockBookmark(kAtlas);
-
     for (const auto& [link, expected] :
          std::vector<std::pair<std::string, MacPath>>{{elsewhere.string() + "/Contents", elsewhere},
                                                       {"/Volumes/Gone/Atlas.app/Contents", atlas},
                                                       {(wrapper / "Contents").string(), atlas},
                                                       {"Contents", atlas}}) {
-        ASSERT_TRUE(mac.files.remove(wrapper / "Contents"));
-        ASSERT_TRUE(mac.files.createLink(wrapper / "Contents", link));
+        linkWrapperTo(link);
         const dock::Tile tile = cleanedAtlas();
         EXPECT_EQ(*mac.bookmarks.resolve(*tile.bookmark()), expected) << link;
         EXPECT_EQ(*tile.url(), mac.bookmarks.fileURL(expected)) << link;
         EXPECT_EQ(*tile.modified(), plist::Value(1234)) << link;
     }
-}
-
-TEST_F(DockCleaningTest, PutsTheSavedBookmarkBackForAnOriginalThatIsGone) {
-    repoint();
-    const Bytes saved = program->settings.getDockBookmark(kAtlas)->bookmark;
+    // The original is gone.
     ASSERT_TRUE(mac.files.remove(atlas));
-    EXPECT_EQ(*cleanedAtlas().bookmark(), saved);
-    EXPECT_EQ(*cleanedAtlas().url(), "file:///Applications/Atlas.app/");
-
-    program->settings.removeDockBookmark(kAtlas);
     EXPECT_TRUE(isWrapperPath(*mac.bookmarks.resolve(*cleanedAtlas().bookmark())));
     EXPECT_TRUE(log.has("  ⚠️ No original found for the Dock tile of " + wrapper.string()));
+    program->settings.saveDockBookmark(saved);
+    linkWrapperTo((atlas / "Contents").string());
+    EXPECT_EQ(*cleanedAtlas().bookmark(), saved.bookmark);
+    EXPECT_EQ(*cleanedAtlas().url(), "file:///Applications/Atlas.app/");
 }
 
 TEST_F(DockCleaningTest, ReturnsWhatItCannotReadAsItWas) {

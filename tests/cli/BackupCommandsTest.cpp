@@ -1,11 +1,7 @@
 #include "RunningCompanion.h"
-#include "backups/BackupArchive.h"
-#include "backups/BackupContainer.h"
-#include "platform/Mac.h"
 #include "platform/PathRules.h"
 #include "platform/Sqlite.h"
 #include "platform/practice/Layout.h"
-#include "platform/practice/PracticeMac.h"
 #include "practice/dock/Dock.h"
 
 using namespace tavrik;
@@ -28,16 +24,7 @@ protected:
     }
 
     sqlite::Connection database() {
-        return std::move(*sqlite::Connection::open(root / kDatabase.string(), sqlite::OpenMode::readWrite));
-    }
-
-    std::string rows() {
-        auto open = database();
-        auto select = open.prepare(
-            "SELECT group_concat(row, char(10)) FROM (SELECT i.rowid || ' ' || ifnull(i.flags, '-') "
-            "|| ' ' || parent_id || ' ' || ordering || ' ' || ifnull(title || bundleid, '') AS row "
-            "FROM items i LEFT JOIN apps a ON a.item_id = i.rowid ORDER BY i.rowid)");
-        return select.step() == sqlite::Step::row ? *select.text(0) : "";
+        return *sqlite::Connection::open(root / kDatabase.string(), sqlite::OpenMode::readWrite);
     }
 
     QImage drawn() {
@@ -54,7 +41,6 @@ TEST_F(Backups, LeadBackToWhatWasThereAndToWhatWasThereBeforeThat) {
     const auto shown = [&] { return run({"backup", "show", "Original State.encrypted"}).output; };
     EXPECT_THAT(shown(), AllOf(HasSubstr("[Utilities]: Terminal, "), HasSubstr("\nDock: Launchpad, Safari, "),
                                HasSubstr("Nothing has changed.")));
-    const std::string rowsBefore = rows();
     const QImage before = drawn();
 
     run({"wrapper", "create", kAtlas, picture("pink.png", QColor(255, 0, 200))});
@@ -73,7 +59,6 @@ TEST_F(Backups, LeadBackToWhatWasThereAndToWhatWasThereBeforeThat) {
     EXPECT_THAT(restored.output, AllOf(HasSubstr("✅ Backup restored successfully\n"),
                                        HasSubstr("\"tavrikctl backup restore " + undo + "\" goes back to it"),
                                        HasSubstr("What was staged is dropped.")));
-    EXPECT_EQ(rows(), rowsBefore);
     EXPECT_EQ(drawn(), before);
     EXPECT_THAT(run({"status"}).output, HasSubstr("Nothing is staged."));
     EXPECT_EQ(json({"wrapper", "list"}), QJsonDocument(QJsonArray()));
@@ -111,62 +96,29 @@ TEST_F(Backups, AreListedAndKeptAsManyAsWanted) {
 }
 
 TEST_F(Backups, AreNamedPlainlyAndSoundOrNothingIsTouched) {
-    const Bytes good = *volume.read(kOriginal);
-    Bytes flipped = good;
+    Bytes flipped = *volume.read(kOriginal);
     flipped[flipped.size() / 2] ^= 1;
-    practice::PracticeMac practice(root);
-    const BackupContainer container(practice.mac().machine, practice.mac().random);
-    const auto sealed = [&](const ArchiveMembers& members) { return *container.seal(*createArchive(members)); };
-    const Bytes text(600, '?');
-    const Bytes dock = *volume.read(kDockPlist);
-    const Bytes launchpad = *volume.read(kDatabase);
-    const char* const kNoName = "That cannot be the name of a backup.";
-
-    const struct {
-        std::string name;
-        Bytes content; ///< none: there is no such backup
-        const char* sentence;
-        const char* line = ""; ///< that a restore logs
-    } cases[] = {
-        {"short", Bytes(good.begin(), good.begin() + 27), "damaged, cut short",
-         "❌ Failed to decrypt backup\n"},
-        {"flipped", flipped, "damaged, cut short", "Failed to decrypt backup: "},
-        {"text", *container.seal(text), "is no archive", "❌ Failed to extract backup archive\n"},
-        {"no-dock", sealed({{kLaunchpadMember, launchpad}}), "no Dock", "❌ Dock plist not found in backup\n"},
-        {"bad-dock", sealed({{kDockMember, text}, {kLaunchpadMember, launchpad}}), "Dock preferences in the",
-         "❌ Failed to restore backup files: "},
-        {"no-db", sealed({{kDockMember, dock}}), "no Launchpad", "❌ Launchpad database not found in backup\n"},
-        {"bad-db", sealed({{kDockMember, dock}, {kLaunchpadMember, text}}), "Launchpad database in the",
-         "❌ Failed to restore backup files: "},
-        {"original state", {}, "Did you mean \"Original State\"?"},
-        {"Original", {}, "Did you mean \"Original State\"?"},
-        {"Thursday", {}, "\"tavrikctl backup list\" shows what there is."},
-        {"../outside", {}, kNoName},
-        {kOriginal.string(), {}, kNoName},
-        {"", {}, kNoName},
-        {".", {}, kNoName},
-        {"..", {}, kNoName},
-        {"x\ny", {}, kNoName},
-        {std::string(256, 'x'), {}, kNoName},
-    };
-
-    ASSERT_TRUE(volume.write(kSupport / "outside.encrypted", good));
-    for (const auto& bad : cases) {
-        if (!bad.content.empty()) {
-            ASSERT_TRUE(volume.create(kBackups / (bad.name + ".encrypted"), bad.content));
-        }
-    }
+    ASSERT_TRUE(volume.create(kBackups / "flipped.encrypted", flipped));
+    ASSERT_TRUE(volume.copy(kOriginal, kSupport / "outside.encrypted"));
     const FileTree before = treeOf(root);
-    for (const auto& [name, content, sentence, line] : cases) {
-        EXPECT_THAT(run({"backup", "verify", name}, 1).errors, HasSubstr(sentence));
-        EXPECT_THAT(run({"backup", "show", name}, 1).errors, HasSubstr(sentence));
-        const ToolResult restored = run({"backup", "restore", name}, 1);
-        EXPECT_THAT(restored.output, HasSubstr(line)) << name;
-        EXPECT_THAT(restored.errors, HasSubstr(sentence));
+    const char* const kNoName = "That cannot be the name of a backup.";
+    for (const auto& [name, sentence] : std::vector<std::pair<std::string, const char*>>{
+             {"flipped", "damaged, cut short"},
+             {"original state", "Did you mean \"Original State\"?"},
+             {"Original", "Did you mean \"Original State\"?"},
+             {"Thursday", "\"tavrikctl backup list\" shows what there is."},
+             {"../outside", kNoName},
+             {kOriginal.string(), kNoName},
+             {"", kNoName},
+             {"..", kNoName},
+             {"x\ny", kNoName},
+             {std::string(256, 'x'), kNoName}}) {
+        for (const char* command : {"verify", "show", "restore"})
+            EXPECT_THAT(run({"backup", command, name}, 1).errors, HasSubstr(sentence)) << command;
     }
     const ToolResult all = run({"backup", "verify"}, 1);
     EXPECT_THAT(all.output, HasSubstr("Original State: good.\n"));
-    EXPECT_THAT(all.errors, AllOf(HasSubstr("\nshort: The backup is"), HasSubstr("bad-dock: The Dock")));
+    EXPECT_THAT(all.errors, HasSubstr("flipped: The backup is damaged"));
 
     for (const char* number : {"0", "00", "-1", "1.5", "", "99999999999999999999"})
         EXPECT_THAT(run({"backup", "keep", number}, 2).errors, HasSubstr("1 or more"));

@@ -6,14 +6,12 @@
 #include <gtest/gtest.h>
 
 namespace tavrik {
-
 namespace {
 
 using Application = LaunchpadLayout::Application;
 using Folder = LaunchpadLayout::Folder;
 
-class Layout : public testing::Test {
-protected:
+struct Layout : testing::Test {
     Layout() {
         run(practice::kLaunchpadSchema);
         run("INSERT OR REPLACE INTO dbinfo VALUES ('ignore_items_update_triggers', '1')");
@@ -25,8 +23,6 @@ protected:
 
     std::optional<sqlite::Connection> m_database = sqlite::Connection::openInMemory();
 };
-
-} // namespace
 
 TEST_F(Layout, IsWhatStandsOnTheShownPagesInOrder) {
     run("INSERT INTO items VALUES (1, 'ROOTPAGE', NULL, 1, 0, 0), (2, 'HOLDINGPAGE', 2, 3, 1, 0),"
@@ -69,4 +65,5 @@ TEST_F(Layout, IsNothingWithoutTheTablesAndEmptyWithoutRows) {
     EXPECT_FALSE(m_database->inTransaction());
 }
 
+} // namespace
 } // namespace tavrik

@@ -1,40 +1,18 @@
+#include "support/practice/Killing.h"
 #include "wrappers/WrapperStage.h"
 
 #include <functional>
-#include <set>
 
 namespace tavrik::test {
 
 namespace {
 
-/// Stands for a kill: nothing in the program catches it.
-struct Killed {};
-
 struct Kills : WrapperStage {
     using Work = std::function<void()>;
 
-    /// Runs the work and kills the program before the change of that number; false when it was over before.
+    /// False when the work was over before the change of that number.
     bool killedBefore(std::size_t change, const Work& work) {
-        std::size_t changes = 0;
-        const auto count = [&]() -> std::nullopt_t {
-            if (++changes == change)
-                throw Killed();
-            return std::nullopt;
-        };
-        files.setRule([&](const FileOperation& operation) -> std::optional<int> {
-            static const std::set<std::string> kChanges{"write",   "create", "copy",        "move",
-                                                        "replace", "remove", "createFolder"};
-            return kChanges.contains(operation.name) ? count() : std::nullopt;
-        });
-        session.setInterceptor([&](const auto&, const auto&, const auto&) { return count(); });
-        bool wasKilled = false;
-        try {
-            work();
-        } catch (const Killed&) {
-            wasKilled = true;
-        }
-        files.failNothing();
-        session.setInterceptor({});
+        const bool wasKilled = isKilledBefore(*this, change, work);
         start();
         return wasKilled;
     }
