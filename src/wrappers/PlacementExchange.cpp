@@ -66,7 +66,8 @@ bool PlacementExchange::undoUnfinished(const std::string& bundleID) {
 }
 
 void PlacementExchange::finish(const std::string& bundleID) {
-    if (isUnfinished(bundleID))
+    // Twice, since a record that stays by a passing fault would have all of the work done anew.
+    for (int tries = 0; tries < 2 && isUnfinished(bundleID); ++tries)
         m_settings.removeSwapRecord(bundleID);
 }
 

@@ -6,7 +6,9 @@
 
 #include <QImage>
 
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 
 class QObject;
@@ -29,6 +31,8 @@ struct ApplyRun {
     /// Where the icon that each application is to carry is read from, known once its icons have their places.
     /// None for the application's own icon.
     std::map<std::string, MacPath> chosenIcons;
+    /// The numbers of the icons that were in use before, as the icons are numbered now.
+    std::map<std::string, std::optional<std::int64_t>> earlierIcons;
     /// Theme icons that are chosen, read before their themes may go.
     std::map<std::string, QImage> themeImages;
 

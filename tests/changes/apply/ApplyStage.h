@@ -167,11 +167,15 @@ protected:
                 .isTileWrapper = std::ranges::find(tiles, bundleID, &PinnedTile::bundleID) != tiles.end()};
     }
 
+    int colourOf(const MacPath& icon) {
+        return static_cast<int>(program->iconCache.loadImage(icon).pixel(10, 10) & 0xFFFFFF);
+    }
+
     /// The numbers of an application's permanent icons, in their order.
     std::vector<int> permanentIcons(const std::string& bundleID) {
         std::vector<int> numbers;
         for (const MacPath& icon : program->iconStore.listIcons(bundleID))
-            numbers.push_back(static_cast<int>(program->iconCache.loadImage(icon).pixel(10, 10) & 0xFFFFFF));
+            numbers.push_back(colourOf(icon));
         return numbers;
     }
 

@@ -1,7 +1,6 @@
 #include "ApplyStage.h"
 
-#include <QBuffer>
-
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -11,7 +10,6 @@ namespace tavrik::test {
 namespace {
 
 using Apply = ApplyStage;
-using Milliseconds = std::vector<std::chrono::milliseconds>;
 
 const std::string kBold = "Mathematical Bold";
 
@@ -33,6 +31,8 @@ TEST_F(Apply, BringsAPictureIntoLaunchpadAndTheDock) {
     EXPECT_THAT(permanentIcons(kAtlas), ElementsAre(7));
     EXPECT_EQ(program->settings.getSelectedIcon(kAtlas), 0);
     EXPECT_EQ(program->backups.listBackups().size(), 1U);
+    EXPECT_THAT(clock.waits(),
+                ElementsAre(500ms, 100ms, 100ms, 200ms, 1s, 1s, 1s, 1s, 1s, 100ms, 100ms, 200ms, 500ms));
     EXPECT_THAT(linesLike(kMarks),
                 ElementsAre("📦 Creating backup of Dock and Launchpad files...",
                             "📊 PRE-APPLY: Atlas has 0 permanent icons", "\n=== APPLYING PENDING CHANGES ===",

@@ -76,8 +76,11 @@ void update(ApplyRun& run, const Group& group) {
         begin(run);
         log("  - Updating icon for " + task->app.name);
         const QImage image = chosenImage(run, *task);
-        if (image.isNull() || !run.with.wrappers.setWrapperIcon(task->app, image))
+        if (image.isNull() || !run.with.wrappers.setWrapperIcon(task->app, image)) {
+            // Else choosing the new one again would seem to change nothing.
+            run.with.settings.setSelectedIcon(task->app.bundleID, run.earlierIcons[task->app.bundleID]);
             run.fail(task->app, "Its new icon could not be set.");
+        }
         run.changedWrappers = true;
     }
 }

@@ -47,6 +47,7 @@ void transfer(ApplyRun& run, const ApplyTask& task) {
     }
 
     const Chosen chosen = chosenOf(run, task, places);
+    run.earlierIcons.emplace(bundleID, run.with.settings.getSelectedIcon(bundleID));
     run.with.settings.setSelectedIcon(bundleID, chosen.number);
     log("  Saved selected index: " + std::to_string(chosen.number.value_or(-1)));
     if (run.with.icons.removePendingFolderIfEmpty(bundleID))
