@@ -160,7 +160,6 @@ protected:
         start();
     }
 
-    const std::vector<PinnedTile> firstTiles = volume.pinnedTiles();
     std::string theme;
     std::string goingTheme;
 };

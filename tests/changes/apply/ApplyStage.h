@@ -3,14 +3,16 @@
 #include "app/Managers.h"
 #include "platform/Alerts.h"
 #include "platform/PathRules.h"
+#include "platform/Sqlite.h"
 #include "platform/Volume.h"
 #include "platform/Workspace.h"
 #include "platform/practice/Layout.h"
+#include "practice/picture/Picture.h"
 #include "support/FileTree.h"
 #include "support/LogRecorder.h"
 #include "support/practice/VirtualMac.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QImage>
 
 #include <gmock/gmock.h>
@@ -77,6 +79,27 @@ private:
 class ApplyStage : public testing::Test, protected VirtualMac {
 protected:
     ApplyStage() { start(); }
+
+    /// Every snapshot that was taken is sound, and brings an empty Mac to the look of the beginning.
+    void TearDown() override {
+        for (const MacPath& backup : program->backups.listBackups())
+            expectRestores(backup);
+    }
+
+    void expectRestores(const MacPath& backup) {
+        const PracticeVolume empty;
+        practice::PracticeMac other{empty.root(), {.clock = &clock}};
+        for (const MacPath& lost : {launchpadDatabasePath(practice::kTemporaryFolder).parent(),
+                                    dockPreferencesPath(practice::kHome), practice::kApplicationSupport})
+            ASSERT_TRUE(!other.mac().files.exists(lost) || other.mac().files.remove(lost));
+        Managers managers(other.mac());
+        const MacPath brought = practice::kHome / backup.name();
+        ASSERT_TRUE(other.mac().files.create(brought, *mac.files.read(backup)));
+        EXPECT_TRUE(managers.backups.restoreBackup(brought));
+        EXPECT_EQ(empty.launchpadItems(), firstRows) << backup.string();
+        EXPECT_EQ(empty.pinnedTiles(), firstTiles) << backup.string();
+        EXPECT_TRUE(*practice::drawPicture(empty.root()) == firstPicture) << backup.string();
+    }
 
     /// Anew, as after a kill.
     void start() {
@@ -194,14 +217,25 @@ protected:
     }
 
     int argumentCount = 0;
-    QCoreApplication application{argumentCount, nullptr};
+    QGuiApplication application{argumentCount, nullptr};
+
+    /// Without an application that is gone, whose title does not get its capitals back.
+    std::vector<LaunchpadItem> rowsOfWhatIsThere() {
+        auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+        EXPECT_TRUE(database->execute(
+            "DELETE FROM items WHERE rowid IN (SELECT item_id FROM apps WHERE title = 'Windlass')"));
+        return volume.launchpadItems();
+    }
+
     PreparedAnswers alerts;
     BusyWorkspace workspace{own.workspace};
     Mac whole{mac.volume,   mac.files,   mac.bookmarks, workspace, mac.tools, mac.notifications,
               mac.defaults, mac.machine, clock,         alerts,    mac.random};
     LogRecorder log;
     std::vector<std::string> reports; ///< of failed applications
-    const std::vector<LaunchpadItem> firstRows = volume.launchpadItems();
+    const std::vector<LaunchpadItem> firstRows = rowsOfWhatIsThere();
+    const std::vector<PinnedTile> firstTiles = volume.pinnedTiles();
+    const QImage firstPicture = *practice::drawPicture(volume.root());
     std::unique_ptr<Managers> program;
 };
 

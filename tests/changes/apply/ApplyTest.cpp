@@ -218,7 +218,6 @@ TEST_F(Apply, PutsBackTheOneThatFailsAndKeepsTheOthers) {
 }
 
 TEST_F(Apply, ComesBackToTheBeginningByTheOriginalState) {
-    const auto firstTiles = volume.pinnedTiles();
     add(kAtlas, 1);
     add(kMissionControl, 2);
     pending().setPendingFont("Small Caps");
