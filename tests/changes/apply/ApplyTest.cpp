@@ -1,4 +1,5 @@
 #include "ApplyStage.h"
+#include "changes/apply/ManualRefresh.h"
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
@@ -215,6 +216,30 @@ TEST_F(Apply, PutsBackTheOneThatFailsAndKeepsTheOthers) {
     EXPECT_FALSE(mac.files.exists(wrapper));
     EXPECT_THAT(permanentIcons(failing), ElementsAre(104)) << "its icon is kept";
     EXPECT_EQ(program->settings.getSelectedIcon(failing), std::nullopt);
+}
+
+TEST_F(Apply, RefreshesWhatIsAppliedAndNothingElse) {
+    add(kAtlas, 7);
+    pending().setPendingFont(kBold);
+    expectApplied();
+    const Look applied = lookOf(kAtlas);
+    const MacPath wrapper = wrapperFolder(practice::kHome) / "Atlas.app";
+    ASSERT_TRUE(mac.workspace.clearIcon(wrapper));
+    auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
+    ASSERT_TRUE(database &&
+                database->execute("UPDATE apps SET title = 'Atlas' WHERE bundleid = 'org.example.atlas'"));
+    add(kInkwell, 8);
+
+    EXPECT_EQ(manualRefresh(program->applyServices), 1U);
+    EXPECT_EQ(lookOf(kAtlas), applied);
+    EXPECT_FALSE(lookOf(kInkwell).isWrapper) << "that is only staged";
+    EXPECT_TRUE(pending().hasPendingChanges());
+    EXPECT_THAT(
+        linesLike({"\n=== MANUAL", "Verifying", "Refreshed", "Re-applying active", "Restarting", "=== MANUAL"}),
+        testing::IsSupersetOf({"\n=== MANUAL REFRESH INITIATED ===", "Verifying icon synchronization...",
+                               "Refreshed icons for 1 tavrik app(s)",
+                               "Re-applying active font: Mathematical Bold", "Restarting Dock/Launchpad...",
+                               "=== MANUAL REFRESH COMPLETE ===\n"}));
 }
 
 TEST_F(Apply, ComesBackToTheBeginningByTheOriginalState) {
