@@ -2,6 +2,7 @@
 #include "platform/PropertyList.h"
 #include "practice/furnish/SampleApps.h"
 
+#include <array>
 #include <sstream>
 
 namespace tavrik::test {
@@ -92,26 +93,19 @@ TEST_F(Summary, TellsThePagesAndTheTilesOfAPair) {
 }
 
 TEST(Differences, AreWhatAPersonWouldSeeOfThem) {
-    const struct {
-        const char* what;
-        const char* before;
-        const char* after;
-        const char* told;
-    } pages[] = {
-        {"order within a page is not looked at", "A B", "B A", ""},
-        {"a title is not an application", "A", "𝐀/x.A", ""},
-        {"gone and new, by name", "b C a | /x.id", "N", "-a -b -C -x.id +N"},
-        {"to another page", "A B", "B | A", "A:page 1>page 2"},
-        {"into a folder and out of one", "A [Work B ]", "B [Work A ]",
-         "A:page 1>folder Work B:folder Work>page 1"},
-        {"a folder that moves as a whole", "[Work A ] | B", "B | [Work A ]", "B:page 2>page 1"},
-        {"a folder's new name", "[Work A ]", "[Play A ]", "A:folder Work>folder Play"},
-        {"one of two rows of an application", "A B | A", "B | A", "-A"},
-        {"one of two rows moved, and a third", "A | A B", "A A [F A ] | B", "+A A:page 2>page 1"},
-        {"no identifier", "NoID/", "B | NoID/", "+B NoID:page 1>page 2"},
-    };
-
-    for (const auto& [what, before, after, told] : pages)
+    for (const auto& [what, before, after, told] : std::vector<std::array<const char*, 4>>{
+             {"order within a page is not looked at", "A B", "B A", ""},
+             {"a title is not an application", "A", "𝐀/x.A", ""},
+             {"gone and new, by name", "b C a | /x.id", "N", "-a -b -C -x.id +N"},
+             {"to another page", "A B", "B | A", "A:page 1>page 2"},
+             {"into a folder and out of one", "A [Work B ]", "B [Work A ]",
+              "A:page 1>folder Work B:folder Work>page 1"},
+             {"a folder that moves as a whole", "[Work A ] | B", "B | [Work A ]", "B:page 2>page 1"},
+             {"a folder's new name", "[Work A ]", "[Play A ]", "A:folder Work>folder Play"},
+             {"one of two rows of an application", "A B | A", "B | A", "-A"},
+             {"one of two rows moved, and a third", "A | A B", "A A [F A ] | B", "+A A:page 2>page 1"},
+             {"no identifier", "NoID/", "B | NoID/", "+B NoID:page 1>page 2"},
+         })
         EXPECT_EQ(inShort(tavrik::differences({pagesOf(before), {}}, {pagesOf(after), {}})), told) << what;
 
     const Tiles abc{{"A", "x"}, {"B", "y"}, {"C", "z"}}, twice{{"S", ""}, {"A", "x"}, {"A", "x"}};

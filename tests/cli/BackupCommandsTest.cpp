@@ -101,21 +101,16 @@ TEST_F(Backups, AreNamedPlainlyAndSoundOrNothingIsTouched) {
     ASSERT_TRUE(volume.create(kBackups / "flipped.encrypted", flipped));
     ASSERT_TRUE(volume.copy(kOriginal, kSupport / "outside.encrypted"));
     const FileTree before = treeOf(root);
-    const char* const kNoName = "That cannot be the name of a backup.";
-    for (const auto& [name, sentence] : std::vector<std::pair<std::string, const char*>>{
-             {"flipped", "damaged, cut short"},
-             {"original state", "Did you mean \"Original State\"?"},
-             {"Original", "Did you mean \"Original State\"?"},
-             {"Thursday", "\"tavrikctl backup list\" shows what there is."},
-             {"../outside", kNoName},
-             {kOriginal.string(), kNoName},
-             {"", kNoName},
-             {"..", kNoName},
-             {"x\ny", kNoName},
-             {std::string(256, 'x'), kNoName}}) {
-        for (const char* command : {"verify", "show", "restore"})
-            EXPECT_THAT(run({"backup", command, name}, 1).errors, HasSubstr(sentence)) << command;
-    }
+    const std::vector<std::pair<const char*, Arguments>> names{
+        {"damaged, cut short", {"flipped"}},
+        {"Did you mean \"Original State\"?", {"original state", "Original"}},
+        {"\"tavrikctl backup list\" shows what there is.", {"Thursday"}},
+        {"That cannot be the name of a backup.",
+         {"../outside", kOriginal.string(), "", "..", "x\ny", std::string(256, 'x')}}};
+    for (const auto& [sentence, wrong] : names)
+        for (const std::string& name : wrong)
+            for (const char* command : {"verify", "show", "restore"})
+                EXPECT_THAT(run({"backup", command, name}, 1).errors, HasSubstr(sentence)) << command;
     const ToolResult all = run({"backup", "verify"}, 1);
     EXPECT_THAT(all.output, HasSubstr("Original State: good.\n"));
     EXPECT_THAT(all.errors, HasSubstr("flipped: The backup is damaged"));

@@ -52,8 +52,8 @@ protected:
     Result<Bytes> copy() {
         const auto withoutIndex = [this] {
             auto tree = test::treeOf(m_folder.path());
-            if (const auto index = tree.find("db-shm"); index != tree.end())
-                index->second.clear();
+            if (tree.contains("db-shm"))
+                tree["db-shm"].clear();
             return tree;
         };
         const auto before = withoutIndex();
