@@ -19,8 +19,14 @@ namespace tavrik {
 
 namespace {
 
-bool isListed(const std::vector<Theme>& themes, const std::string& themeID) {
-    return std::ranges::find(themes, themeID, &Theme::themeID) != themes.end();
+/// The name as it is to be stored, when no other theme has it.
+Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) {
+    std::string trimmed = trimmedThemeName(name);
+    if (!isValidThemeName(trimmed))
+        return errorOf(ThemeError::invalidThemeName);
+    if (std::ranges::find(others, trimmed, &Theme::name) != others.end())
+        return errorOf(ThemeError::themeAlreadyExists);
+    return trimmed;
 }
 
 } // namespace
@@ -70,16 +76,6 @@ std::vector<Theme> ThemeManager::listed() const {
     return themes;
 }
 
-/// The name as it is to be stored, when no other theme has it.
-Result<std::string> ThemeManager::freeName(const std::string& name, const std::vector<Theme>& others) const {
-    std::string trimmed = trimmedThemeName(name);
-    if (!isValidThemeName(trimmed))
-        return errorOf(ThemeError::invalidThemeName);
-    if (std::ranges::find(others, trimmed, &Theme::name) != others.end())
-        return errorOf(ThemeError::themeAlreadyExists);
-    return trimmed;
-}
-
 Status ThemeManager::checkNewName(const std::string& name) const {
     const auto free = freeName(name, listed());
     return free ? Status(Done{}) : free.error();
@@ -108,12 +104,11 @@ Result<Theme> ThemeManager::makeTheme(const std::string& name, const std::map<st
         log("Error creating theme: " + error.description);
         return error;
     };
-    const std::vector<Theme> others = listed();
-    const auto free = freeName(name, others);
+    const auto free = freeName(name, listed());
     if (!free)
         return failed(free.error());
     Theme theme{.themeID = drawThemeID(m_mac.random), .name = *free, .createdDate = m_mac.clock.now()};
-    while (isListed(others, theme.themeID))
+    while (isTaken(theme.themeID))
         theme.themeID = drawThemeID(m_mac.random);
     if (const Status made = m_library.create(theme, icons); !made)
         return failed(made.error());

@@ -108,7 +108,6 @@ private:
     Result<Theme> makeTheme(const std::string& name, const std::map<std::string, Bytes>& icons);
     void change(const std::function<void(std::vector<Theme>&)>& how);
     std::vector<Theme> listed() const;
-    Result<std::string> freeName(const std::string& name, const std::vector<Theme>& others) const;
     bool isTaken(const std::string& themeID) const;
     Status putIcon(const Result<Bytes>& png, const std::string& bundleID, const Theme& to);
     struct WantedIcon;
