@@ -1,6 +1,5 @@
 #include "themes/FolderImport.h"
 
-#include "fonts/FontReplacer.h"
 #include "icons/IconStore.h"
 #include "icons/ImageIntake.h"
 #include "model/catalogue/AppManager.h"

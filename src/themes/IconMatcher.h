@@ -2,9 +2,7 @@
 
 #include "model/ApplicationInfo.h"
 
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tavrik {

@@ -88,9 +88,8 @@ double quality(const MatchableName& part, const MatchableName& whole) {
             double& word = nextInWord[place + 1];
             double& run = nextInRun[place + 1];
             word = run = kNever;
-            if (letter > 0)
-                before = std::max(
-                    {before, place == 0 ? kNever : inWord[place - 1], place == 0 ? kNever : inRun[place - 1]});
+            if (letter > 0 && place > 0)
+                before = std::max({before, inWord[place - 1], inRun[place - 1]});
             if (part.letters[letter] != whole.letters[place])
                 continue;
             const double best = std::max({before, inWord[place], inRun[place]});

@@ -25,9 +25,7 @@ bool isUnseen(char32_t point) {
 } // namespace
 
 bool isPortableIconName(const std::string& fileName) {
-    const auto bundleID = bundleIDOfIcon(fileName);
-    return bundleID && !bundleID->empty() && !fileName.starts_with('.') &&
-           fileName.find_first_of("\\:") == std::string::npos &&
+    return bundleIDOfIcon(fileName) && fileName.find_first_of("\\:") == std::string::npos &&
            std::ranges::none_of(QString::fromStdString(fileName).toStdU32String(), isUnseen);
 }
 
