@@ -56,7 +56,7 @@ void CommandLine::addJson(CLI::App& command, bool& json) {
         "--json",
         [this, &json] {
             json = true;
-            m_json = true;
+            m_answersPrograms = true;
         },
         "Print JSON; log lines go to standard error");
 }
@@ -66,6 +66,7 @@ CommandLine::CommandLine()
                "practice Mac.",
                "tavrikctl") {
     m_parser.require_subcommand(1);
+    m_parser.add_option("--log", m_logFile, "Append the log lines to this file instead of printing them");
     m_parser.set_version_flag("--version", "tavrikctl " TAVRIK_VERSION);
     declareLists();
     declareIcons();
@@ -207,6 +208,7 @@ void CommandLine::declarePractice() {
     CLI::App& practice = *m_parser.add_subcommand("practice", "The practice Mac itself");
     practice.require_subcommand(1);
     add<PracticeWhereCommand>(practice, "where", "Print the folder of its volume", command);
+    command->parse_complete_callback([this] { m_answersPrograms = true; });
     add<PracticeResetCommand>(practice, "reset", "Put it away and furnish a new one", command);
 }
 

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -20,7 +21,10 @@ public:
     Command& chosen() const { return *m_chosen; }
 
     /// Whether standard output is for a program, so that log lines go elsewhere.
-    bool wantsJson() const { return m_json; }
+    bool answersPrograms() const { return m_answersPrograms; }
+
+    /// Where the log lines are to be appended; empty when no file was named.
+    const std::string& logFile() const { return m_logFile; }
 
 private:
     void declareLists();
@@ -51,7 +55,8 @@ private:
     CLI::App m_parser;
     std::vector<std::unique_ptr<Command>> m_commands;
     Command* m_chosen = nullptr;
-    bool m_json = false;
+    bool m_answersPrograms = false;
+    std::string m_logFile;
 };
 
 } // namespace tavrik

@@ -3,7 +3,6 @@
 #include "app/PracticeHost.h"
 #include "cli/Companion.h"
 #include "cli/HostFile.h"
-#include "cli/TerminalLog.h"
 #include "platform/Png.h"
 #include "platform/practice/PracticeMac.h"
 #include "practice/furnish/Furnish.h"
@@ -32,8 +31,6 @@ ExitCode PictureCommand::run(Companion& companion) {
 }
 
 ExitCode PracticeWhereCommand::run(Companion& companion) {
-    // The folder is all that a script wants to read.
-    sendLogTo(stderr);
     if (const ExitCode opened = companion.open(Access::looking); opened != ExitCode::done)
         return opened;
     companion.say(companion.practiceRoot().string());

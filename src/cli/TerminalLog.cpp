@@ -2,11 +2,14 @@
 
 #include "platform/Log.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace tavrik {
 
@@ -40,15 +43,29 @@ void sendLogTo(std::FILE* stream) {
         setLogStream(stream);
 }
 
+Status sendLogToFile(const std::string& file) {
+    // Not for the programs that are started: the Dock outlives this one.
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+    std::FILE* stream = descriptor < 0 ? nullptr : ::fdopen(descriptor, "a");
+    if (!stream)
+        return Error{file + ": the log cannot be written there: " + std::generic_category().message(errno) +
+                     "."};
+    setLogStream(stream);
+    return Done{};
+}
+
 std::string_view eraseLine() {
     return isReadByAPerson(stdout) && knowsControls() ? "\r\033[K" : "";
 }
 
-bool setLogAboveLine() {
-    if (eraseLine().empty())
-        return false;
-    setLogStream(stdout, std::string(eraseLine()).append(kFaint), kPlain);
-    return true;
+LogAboveLine::LogAboveLine() {
+    if (logStream() == stdout && !eraseLine().empty())
+        setLogStream(stdout, std::string(eraseLine()).append(kFaint), kPlain);
+}
+
+LogAboveLine::~LogAboveLine() {
+    if (logStream() == stdout)
+        sendLogTo(stdout);
 }
 
 } // namespace tavrik

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/Result.h"
+
 #include <cstdio>
+#include <string>
 #include <string_view>
 
 namespace tavrik {
@@ -10,12 +13,20 @@ namespace tavrik {
 /// knows no such thing. Files and other programs get the lines as they stand.
 void sendLogTo(std::FILE* stream);
 
+/// Appends the log lines to a file, to the end of the process. The error is a sentence, and nothing changed.
+Status sendLogToFile(const std::string& file);
+
 /// Begins the terminal's line anew, emptied. Nothing when no person reads standard output at a terminal that
 /// can.
 std::string_view eraseLine();
 
-/// For a line that is kept below the log on standard output: erases it before each log line. False, with
-/// nothing changed, when no line can be erased.
-bool setLogAboveLine();
+/// As long as it lives, log lines that go to standard output erase the line that is kept below them.
+class LogAboveLine {
+public:
+    LogAboveLine();
+    ~LogAboveLine();
+    LogAboveLine(const LogAboveLine&) = delete;
+    LogAboveLine& operator=(const LogAboveLine&) = delete;
+};
 
 } // namespace tavrik

@@ -1,7 +1,6 @@
 #include "cli/TerminalProgress.h"
 
 #include "changes/apply/ProgressOverlayManager.h"
-#include "cli/TerminalLog.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -24,7 +23,7 @@ std::string barOf(double value, double total) {
 } // namespace
 
 TerminalProgress::TerminalProgress(ProgressOverlayManager& progress, NotificationCenter& notifications)
-    : m_isShown(setLogAboveLine()) {
+    : m_isShown(!eraseLine().empty()) {
     if (m_isShown)
         m_observation =
             notifications.observe(std::string(kProgressUpdated), [this, &progress] { update(progress); });
@@ -39,7 +38,6 @@ TerminalProgress::~TerminalProgress() {
         m_line.clear();
     }
     draw();
-    sendLogTo(stdout); // not under the lock, which the log takes after its own
 }
 
 void TerminalProgress::update(const ProgressOverlayManager& progress) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/TerminalLog.h"
 #include "platform/Log.h"
 #include "platform/NotificationCenter.h"
 
@@ -23,6 +24,7 @@ private:
     void update(const ProgressOverlayManager& progress);
     void draw();
 
+    const LogAboveLine m_logAbove;
     const bool m_isShown;
     std::mutex m_mutex;
     std::string m_line;

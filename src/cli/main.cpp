@@ -29,7 +29,12 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return commands.parser().exit(error) == 0 ? 0 : static_cast<int>(ExitCode::usage);
     }
-    sendLogTo(commands.wantsJson() ? stderr : stdout);
+    if (commands.logFile().empty()) {
+        sendLogTo(commands.answersPrograms() ? stderr : stdout);
+    } else if (const Status sent = sendLogToFile(commands.logFile()); !sent) {
+        std::fprintf(stderr, "%s\n", sent.error().description.c_str());
+        return static_cast<int>(ExitCode::refused);
+    }
 
     // Text is drawn but no window shown: the platform without a screen serves everywhere.
     std::string arguments[] = {argv[0], "-platform", "offscreen"};

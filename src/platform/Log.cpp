@@ -13,7 +13,7 @@ namespace {
 
 /// The one stream of the process. The lock is held while a line goes out, so that lines never interleave and no
 /// listener is called once it is gone.
-struct LogStream {
+struct LogOutput {
     std::mutex mutex;
     std::FILE* stream = stdout;
     std::string before;
@@ -22,15 +22,15 @@ struct LogStream {
 };
 
 /// Made by the first user and never ended, since lines may come while the program winds up.
-LogStream& logStream() {
-    static LogStream& stream = *new LogStream;
-    return stream;
+LogOutput& logOutput() {
+    static LogOutput& output = *new LogOutput;
+    return output;
 }
 
 } // namespace
 
 void log(std::string_view line) {
-    LogStream& to = logStream();
+    LogOutput& to = logOutput();
     const std::lock_guard lock(to.mutex);
     if (to.stream) {
         const std::string text = (to.before + std::string(line)).append(to.after).append("\n");
@@ -43,21 +43,27 @@ void log(std::string_view line) {
 }
 
 void setLogStream(std::FILE* stream, std::string_view before, std::string_view after) {
-    LogStream& to = logStream();
+    LogOutput& to = logOutput();
     const std::lock_guard lock(to.mutex);
     to.stream = stream;
     to.before = before;
     to.after = after;
 }
 
+std::FILE* logStream() {
+    LogOutput& to = logOutput();
+    const std::lock_guard lock(to.mutex);
+    return to.stream;
+}
+
 LogListener::LogListener(std::function<void(std::string_view)> heard) : m_heard(std::move(heard)) {
-    LogStream& to = logStream();
+    LogOutput& to = logOutput();
     const std::lock_guard lock(to.mutex);
     to.listeners.push_back(this);
 }
 
 LogListener::~LogListener() {
-    LogStream& to = logStream();
+    LogOutput& to = logOutput();
     const std::lock_guard lock(to.mutex);
     std::erase(to.listeners, this);
 }

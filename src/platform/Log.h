@@ -16,6 +16,9 @@ void log(std::string_view line);
 /// them. What a terminal needs to show them apart is put before and after each; listeners do not hear it.
 void setLogStream(std::FILE* stream, std::string_view before = {}, std::string_view after = {});
 
+/// Where they go now.
+std::FILE* logStream();
+
 /// Hears every line for as long as it lives. Called on the logging thread, one line at a time; must not log
 /// itself.
 class LogListener {

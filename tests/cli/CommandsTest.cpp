@@ -27,6 +27,12 @@ TEST_F(Commands, FurnishAndShowAMacWithRecordsByTheirFieldNamesAndLogLinesApart)
     std::filesystem::remove_all(root.string());
     const ToolResult listed = run({"apps", "--json"});
     EXPECT_THAT(listed.errors, HasSubstr("Found iOS app: ")) << "log lines belong to standard error";
+    const std::string log = file("log", bytesOf("before\n"));
+    const ToolResult logged = run({"--log", log, "apps"});
+    EXPECT_THAT(logged.output + logged.errors, Not(HasSubstr("Found iOS app: ")));
+    EXPECT_THAT(textOf(*PosixFileManager(own.path()).read(MacPath("/log"))),
+                AllOf(StartsWith("before\n"), HasSubstr("\nFound iOS app: ")));
+    EXPECT_THAT(run({"--log", log + "/log", "discard"}, 3).errors, HasSubstr("cannot be written there"));
     const QJsonArray apps = QJsonDocument::fromJson(QByteArray::fromStdString(listed.output)).array();
     ASSERT_GE(apps.size(), 40);
     std::set<QString> identifiers;
