@@ -115,7 +115,7 @@ std::string PlainTitles::appName(const std::string& title, const sqlite::Stateme
     if (!isStyled(title, plain) || !hasLostCapitals(title, plain, m_replacer))
         return plain;
     const auto bookmark = row.blob(2);
-    const auto bundle = bookmark ? m_bookmarks.resolve(*bookmark) : Error{};
+    const auto bundle = bookmark ? m_bookmarks.recordedPath(*bookmark) : Error{};
     std::string fileName = bundle ? bundleName(*bundle) : std::string();
     return isSameIgnoringCase(fileName, plain) ? fileName : plain;
 }

@@ -119,10 +119,11 @@ std::optional<std::size_t> WrapperRowsCleaning::removeHiddenFlagWrappers() {
 }
 
 WrapperRowsCleaning::Lead WrapperRowsCleaning::leadOf(ByteView bookmark) const {
-    const auto path = m_bookmarks.resolve(bookmark);
-    if (!path)
-        return Lead::nowhere;
-    return isWrapperPath(*path) ? Lead::toWrapper : Lead::elsewhere;
+    if (const auto path = m_bookmarks.resolve(bookmark))
+        return isWrapperPath(*path) ? Lead::toWrapper : Lead::elsewhere;
+    // The Dock keeps the row of a removed wrapper until it is started again.
+    const auto gone = m_bookmarks.recordedPath(bookmark);
+    return gone && isWrapperPath(*gone) ? Lead::toWrapper : Lead::nowhere;
 }
 
 std::optional<WrapperRowsCleaning::AppRow> WrapperRowsCleaning::appRow(RowID row) {

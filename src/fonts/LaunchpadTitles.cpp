@@ -59,8 +59,10 @@ std::optional<std::size_t> LaunchpadTitles::rewriteApps(std::string_view fontNam
 
 std::string LaunchpadTitles::plainAppName(const std::string& title, ByteView bookmark) const {
     // A bookmark resolves only to what is there: to ask again would double what a row costs.
-    const auto bundle = m_bookmarks.resolve(bookmark);
-    return bundle && !bundle->name().empty() ? bundleName(*bundle) : m_replacer.convertToNormal(title);
+    if (const auto bundle = m_bookmarks.resolve(bookmark))
+        return plainTitle(title, *bundle, {}, m_replacer);
+    const auto gone = m_bookmarks.recordedPath(bookmark);
+    return plainTitle(title, std::nullopt, gone ? *gone : MacPath(), m_replacer);
 }
 
 bool LaunchpadTitles::styleFolders(const FontState& style, const std::vector<TitleStyle>& shown) {

@@ -28,8 +28,7 @@ public:
     LaunchpadTitles(sqlite::Connection& database, const Bookmarks& bookmarks, SettingsManager& settings,
                     const FontReplacer& replacer);
 
-    /// An application's plain name is its bundle's file name, and its title in plain text where the bookmark
-    /// leads nowhere.
+    /// See `plainTitle`.
     void styleApps(const std::string& fontName);
     void resetApps();
 

@@ -50,6 +50,15 @@ bool hasLostCapitals(std::string_view title, std::string_view plain, const FontR
            });
 }
 
+std::string plainTitle(const std::string& title, const std::optional<MacPath>& bundle, const MacPath& gone,
+                       const FontReplacer& replacer) {
+    if (bundle && !bundle->name().empty())
+        return bundleName(*bundle);
+    std::string plain = replacer.convertToNormal(title);
+    std::string fileName = bundleName(gone);
+    return isSameIgnoringCase(fileName, plain) ? fileName : plain;
+}
+
 bool isSameIgnoringCase(std::string_view one, std::string_view other) {
     return one == other || folded(one) == folded(other);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Path.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,11 @@ std::string plainLabel(const std::string& label, const std::string& url, const F
 /// Whether the title is written in a style that gives a capital and its small letter one shape, so that
 /// `plain`, which is the title in plain text, cannot tell them apart.
 bool hasLostCapitals(std::string_view title, std::string_view plain, const FontReplacer& replacer);
+
+/// The plain name of an application in Launchpad: its bundle's file name. Where the bundle is gone, which is
+/// then where it was, its title in plain text, with the capitals of that file name if it is the same name.
+std::string plainTitle(const std::string& title, const std::optional<MacPath>& bundle, const MacPath& gone,
+                       const FontReplacer& replacer);
 
 /// Whether two names differ in nothing but the case of their letters.
 bool isSameIgnoringCase(std::string_view one, std::string_view other);

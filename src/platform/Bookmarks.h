@@ -22,6 +22,10 @@ public:
     /// row of a listing.
     virtual Result<MacPath> resolve(ByteView bookmark) const = 0;
 
+    /// The path that the data records, whether or not anything is there. An error when the data is damaged. Any
+    /// thread; pure.
+    virtual Result<MacPath> recordedPath(ByteView bookmark) const = 0;
+
     /// The absolute text of a file URL, percent-encoded; a folder's ends in "/":
     /// "file:///Applications/Visual%20Studio%20Code.app/".
     virtual std::string fileURL(const MacPath& path) const = 0;

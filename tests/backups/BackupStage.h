@@ -26,11 +26,7 @@ inline const MacPath kWrappers = wrapperFolder(practice::kHome);
 /// A furnished Mac in virtual time and the whole program on it.
 class BackupStage : public testing::Test, protected VirtualMac {
 protected:
-    BackupStage() {
-        // The title of an application that is gone does not get its capitals back.
-        change("DELETE FROM items WHERE rowid IN (SELECT item_id FROM apps WHERE title = 'Windlass')");
-        managers.emplace(mac);
-    }
+    BackupStage() { managers.emplace(mac); }
 
     BackupManager& backups() { return managers->backups; }
 

@@ -7,9 +7,7 @@ namespace {
 /// A Launchpad that is styled and wrapped by the program itself.
 struct LaunchpadCleaningTest : BackupStage {
     LaunchpadCleaningTest() {
-        // Of an application that is gone nobody knows the capitals.
-        change("UPDATE apps SET title = lower(title) WHERE title = 'Windlass'; "
-               "UPDATE groups SET title = 'XS iTunes' WHERE title = 'Utilities'");
+        change("UPDATE groups SET title = 'XS iTunes' WHERE title = 'Utilities'");
         unstyled = rowsIn(snapshot());
     }
 

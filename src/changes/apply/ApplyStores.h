@@ -28,6 +28,7 @@ struct ApplyStores {
         std::optional<std::string> originalTitle; ///< of the application's own row
         MacPath original;                         ///< empty when its bookmark leads nowhere
         MacPath shown;                            ///< the original, or its wrapper
+        MacPath gone;                             ///< where its bookmark led; empty while something is there
         bool isRetitled =
             true;      ///< whether a styled alphabet would be written into its title: it has a bookmark
         RowID page{};  ///< or page of a folder

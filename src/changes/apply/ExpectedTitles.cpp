@@ -5,19 +5,10 @@
 
 namespace tavrik {
 
-namespace {
-
-std::string plainTitle(const ApplyStores::ShownApp& app, const FontReplacer& fonts) {
-    const MacPath& bundle = app.shown;
-    return bundle.name().empty() ? fonts.convertToNormal(*app.title) : bundleName(bundle);
-}
-
-} // namespace
-
 void writeTitles(ApplyStores& stores, const std::string& style, const FontReplacer& fonts) {
     for (auto& [row, app] : stores.apps) {
         if (app.title && app.isRetitled)
-            app.title = fonts.convert(plainTitle(app, fonts), style);
+            app.title = fonts.convert(plainTitle(*app.title, app.shown, app.gone, fonts), style);
     }
 
     for (auto& [row, title] : stores.folders) {

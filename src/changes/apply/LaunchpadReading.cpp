@@ -35,6 +35,7 @@ struct Row {
     std::string bundleID;
     bool hasBookmark = false;
     MacPath path; ///< empty when its bookmark leads nowhere
+    MacPath gone; ///< where it led then
 };
 
 Error unreadable(const std::string& why) {
@@ -65,6 +66,8 @@ Result<std::vector<Row>> readRows(const ApplyServices& with) {
             row.hasBookmark = true;
             if (const auto path = with.mac.bookmarks.resolve(*bookmark))
                 row.path = *path;
+            else if (const auto recorded = with.mac.bookmarks.recordedPath(*bookmark))
+                row.gone = *recorded;
         }
         rows.push_back(std::move(row));
     }
@@ -139,7 +142,7 @@ Status readLaunchpad(const ApplyServices& with, ApplyStores& stores) {
         if (!row.isApp || exchanges.isExchangedWrapper(row))
             continue;
         // The Dock has not dropped the row of a removed wrapper yet.
-        if (row.path.empty() && found.contains(row.bundleID))
+        if (row.path.empty() && (isWrapperPath(row.gone) || found.contains(row.bundleID)))
             continue;
         if (isWrapperPath(row.path)) {
             stores.strayWrapperRows.insert(row.bundleID);
@@ -151,6 +154,7 @@ Status readLaunchpad(const ApplyServices& with, ApplyStores& stores) {
                                                               .originalTitle = row.title,
                                                               .original = row.path,
                                                               .shown = visible.path,
+                                                              .gone = visible.gone,
                                                               .isRetitled = visible.hasBookmark,
                                                               .page = visible.placement.parentID});
         shownRowOf.emplace(visible.number, row.number);

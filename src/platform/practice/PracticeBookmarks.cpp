@@ -82,6 +82,10 @@ Result<MacPath> PracticeBookmarks::resolve(ByteView bookmark) const {
     return path;
 }
 
+Result<MacPath> PracticeBookmarks::recordedPath(ByteView bookmark) const {
+    return decodeBookmarkPath(bookmark);
+}
+
 std::string PracticeBookmarks::fileURL(const MacPath& path) const {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string url = "file://";

@@ -24,6 +24,7 @@ public:
 
     Result<Bytes> make(const MacPath& target) const override;
     Result<MacPath> resolve(ByteView bookmark) const override;
+    Result<MacPath> recordedPath(ByteView bookmark) const override;
     std::string fileURL(const MacPath& path) const override;
 
 private:

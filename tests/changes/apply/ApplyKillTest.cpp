@@ -1,15 +1,11 @@
 #include "ApplyStage.h"
+#include "support/practice/Killing.h"
 
 #include <cstdlib>
-#include <functional>
-#include <thread>
 
 namespace tavrik::test {
 
 namespace {
-
-/// Stands for a kill: nothing in the program catches it.
-struct Killed {};
 
 const std::string kBold = "Mathematical Bold";
 const std::string kBeacon = "com.example.lumen.beacon";
@@ -66,43 +62,15 @@ protected:
         EXPECT_EQ(program->themes.library().icons(theme).size(), 1U);
     }
 
-    /// Runs the work and kills the program before its change of that number; false when it was over before.
-    /// What runs while the stack is unwound has no effect, as it would have none.
-    bool killedBefore(std::size_t change, const std::function<void()>& work) {
-        const auto thread = std::this_thread::get_id();
-        std::size_t changes = 0;
-        bool isDead = false;
-        const auto passes = [&] {
-            if (isDead)
-                return false;
-            if (std::this_thread::get_id() == thread && ++changes == change) {
-                isDead = true;
-                throw Killed();
-            }
-            return true;
-        };
-        files.setRule([&](const FileOperation& operation) -> std::optional<int> {
-            static const std::set<std::string> kChanges{"write",   "create", "copy",        "move",
-                                                        "replace", "remove", "createFolder"};
-            // What is removed on every path out is removed by a destructor, which cannot be left by an
-            // exception.
-            const bool isCleanUp = operation.path.isInside(MacPath(mac.volume.temporaryFolder()));
-            if (!isDead && (isCleanUp || !kChanges.contains(operation.name)))
-                return std::nullopt;
-            return passes() ? std::nullopt : std::optional(EIO);
+    /// Kills an apply before its change of that number; false when it was over before. Starts the program anew.
+    bool killedBefore(std::size_t change) {
+        const bool wasKilled = isKilledBefore(*this, change, [this] {
+            const auto ending = std::unique_ptr<ApplyKill, void (*)(ApplyKill*)>(
+                this, [](ApplyKill* stage) { stage->program.reset(); });
+            program->apply.applyChanges();
         });
-        session.setInterceptor([&](const auto&, const auto&, const auto&) -> std::optional<Result<ToolResult>> {
-            return passes() ? std::nullopt : std::optional(Result<ToolResult>(Error{"killed", EIO}));
-        });
-        try {
-            work();
-        } catch (const Killed&) {
-        }
-        program.reset();
-        files.failNothing();
-        session.setInterceptor({});
         start();
-        return isDead;
+        return wasKilled;
     }
 
     /// As the start of the program does.
@@ -179,7 +147,7 @@ TEST_F(ApplyKill, ASecondApplyReachesTheTargetFromEveryPoint) {
     for (bool wasKilled = true; wasKilled && !HasFailure(); change += stride()) {
         SCOPED_TRACE("killed before change " + std::to_string(change));
         stage();
-        wasKilled = killedBefore(change, [&] { program->apply.applyChanges(); });
+        wasKilled = killedBefore(change);
         points += wasKilled;
         recover();
         if (pending().hasPendingChanges()) {
@@ -192,7 +160,7 @@ TEST_F(ApplyKill, ASecondApplyReachesTheTargetFromEveryPoint) {
 
         // And from there, or from the middle of it, back to the very beginning.
         stage();
-        killedBefore(change * 7 % 311, [&] { program->apply.applyChanges(); });
+        killedBefore(change * 7 % 311);
         undoEverything();
         prepare();
     }

@@ -219,21 +219,13 @@ protected:
     int argumentCount = 0;
     QGuiApplication application{argumentCount, nullptr};
 
-    /// Without an application that is gone, whose title does not get its capitals back.
-    std::vector<LaunchpadItem> rowsOfWhatIsThere() {
-        auto database = sqlite::Connection::open(volume.launchpadDatabase(), sqlite::OpenMode::readWrite);
-        EXPECT_TRUE(database->execute(
-            "DELETE FROM items WHERE rowid IN (SELECT item_id FROM apps WHERE title = 'Windlass')"));
-        return volume.launchpadItems();
-    }
-
     PreparedAnswers alerts;
     BusyWorkspace workspace{own.workspace};
     Mac whole{mac.volume,   mac.files,   mac.bookmarks, workspace, mac.tools, mac.notifications,
               mac.defaults, mac.machine, clock,         alerts,    mac.random};
     LogRecorder log;
     std::vector<std::string> reports; ///< of failed applications
-    const std::vector<LaunchpadItem> firstRows = rowsOfWhatIsThere();
+    const std::vector<LaunchpadItem> firstRows = volume.launchpadItems();
     const std::vector<PinnedTile> firstTiles = volume.pinnedTiles();
     const QImage firstPicture = *practice::drawPicture(volume.root());
     std::unique_ptr<Managers> program;

@@ -76,6 +76,7 @@ TYPED_TEST_P(MacContract, BookmarksLeadBackToTheirTarget) {
 
     ASSERT_TRUE(this->mac.files.remove(bundle));
     EXPECT_FALSE(bookmarks.resolve(*bookmark));
+    EXPECT_EQ(*bookmarks.recordedPath(*bookmark), *found) << "there or not";
 }
 
 TYPED_TEST_P(MacContract, FileURLsAreEncodedAndAFoldersEndsInASlash) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/practice/Layout.h"
 #include "support/practice/VirtualMac.h"
 
 #include <cerrno>
@@ -28,7 +29,10 @@ template<typename Work>
     on.files.setRule([&](const FileOperation& operation) -> std::optional<int> {
         static const std::set<std::string> kChanges{"write",   "create", "copy",        "move",
                                                     "replace", "remove", "createFolder"};
-        const bool isChange = isDead || kChanges.contains(operation.name);
+        // A temporary file is removed by a destructor, which cannot be left by an exception.
+        const bool isCleanUp =
+            operation.name == "remove" && operation.path.isInside(MacPath(practice::kTemporaryFolder));
+        const bool isChange = isDead || (!isCleanUp && kChanges.contains(operation.name));
         return isChange && !passes() ? std::optional(EIO) : std::nullopt;
     });
     on.session.setInterceptor([&](const auto&, const auto&, const auto&) -> std::optional<Result<ToolResult>> {
