@@ -64,9 +64,10 @@ TEST_F(IconTransferTest, DeletesMovesAndNumbersInTheOrderOfTheRow) {
     EXPECT_FALSE(program.store.removePendingFolderIfEmpty(kAtlas));
     const LogRecorder log;
     EXPECT_THAT(run(stage, program), kRow);
-    EXPECT_THAT(log.lines(), ElementsAre("  Deleted: icon_1.png", "  Re-indexed: icon_2 -> icon_1",
-                                         "  Re-indexed: icon_3 -> icon_2", "  Re-indexed: icon_4 -> icon_3",
-                                         "  Re-indexed: icon_6 -> icon_4"));
+    EXPECT_THAT(log.lines(), ElementsAre("  Deleting 1 marked icons for com.example.atlas",
+                                         "  Deleted: icon_1.png", "  Permanent icons after cleanup: 3",
+                                         "  Re-indexed: icon_2 -> icon_1", "  Re-indexed: icon_3 -> icon_2",
+                                         "  Re-indexed: icon_4 -> icon_3", "  Re-indexed: icon_6 -> icon_4"));
     EXPECT_THAT(stage.colours(stage.permanent), kRow);
     EXPECT_EQ(stage.colour(stage.permanent / "icon_4_thumb@2x.png"), 6);
     EXPECT_TRUE(program.store.removePendingFolderIfEmpty(kAtlas));
