@@ -29,18 +29,35 @@ SettingsFile::SettingsFile(FileManager& files, const MacPath& folder)
       m_backup(folder / "AppSettings.backup"),
       m_temporary(folder / "AppSettings.tmp") {}
 
-std::optional<plist::Dictionary> SettingsFile::read() const {
-    const auto data = m_files.read(m_main);
-    return data ? settingsIn(*data) : std::nullopt;
+SettingsFile::Content SettingsFile::read() const {
+    auto data = m_files.read(m_main);
+    return data ? contentOf(std::move(*data)) : nullptr;
+}
+
+/// Null for what holds no settings. Parsing is by far the most that a change of large settings costs, and each
+/// change looks at the same file several times: before it, to see that it arrived, and for the cache.
+SettingsFile::Content SettingsFile::contentOf(Bytes data) const {
+    {
+        const std::lock_guard lock(m_parsedLock);
+        if (m_parsed.content && m_parsed.data == data)
+            return m_parsed.content;
+    }
+    auto settings = settingsIn(data);
+    if (!settings)
+        return nullptr;
+    auto content = std::make_shared<const plist::Dictionary>(std::move(*settings));
+    const std::lock_guard lock(m_parsedLock);
+    m_parsed = {std::move(data), content};
+    return content;
 }
 
 plist::Dictionary SettingsFile::load(Repair repair) {
     m_mainUnreadable.reset();
     m_backupIsTheGoodOne = false;
-    const auto data = m_files.read(m_main);
+    auto data = m_files.read(m_main);
     if (data) {
-        if (auto settings = settingsIn(*data))
-            return std::move(*settings);
+        if (const Content content = contentOf(std::move(*data)))
+            return *content;
     } else if (data.error().code != ENOENT) {
         m_mainUnreadable = data.error();
     }

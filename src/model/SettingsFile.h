@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/Bytes.h"
 #include "platform/Path.h"
 #include "platform/PropertyList.h"
 #include "platform/Result.h"
 
+#include <memory>
+#include <mutex>
 #include <optional>
 
 namespace tavrik {
@@ -18,9 +21,11 @@ class SettingsFile {
 public:
     SettingsFile(FileManager& files, const MacPath& folder);
 
-    /// What the main file holds; nothing when it is missing, unreadable, damaged or empty. Changes and logs
-    /// nothing.
-    std::optional<plist::Dictionary> read() const;
+    using Content = std::shared_ptr<const plist::Dictionary>;
+
+    /// What the main file holds; null when it is missing, unreadable, damaged or empty. Changes and logs
+    /// nothing. The file is read each time, and parsed when it is not the same as the last time.
+    Content read() const;
 
     /// The same with its fallback: the backup, which is then put in the place of a missing or damaged main
     /// file; at worst an empty dictionary. Damaged files stay on disk for inspection.
@@ -43,6 +48,13 @@ public:
     Saved save(plist::Dictionary settings);
 
 private:
+    /// What was parsed last, and of what.
+    struct Parsed {
+        Bytes data;
+        Content content;
+    };
+
+    Content contentOf(Bytes data) const;
     bool refreshBackup();
     Result<Saved> replaceWith(plist::Dictionary settings);
 
@@ -52,6 +64,9 @@ private:
     const MacPath m_temporary;
     std::optional<Error> m_mainUnreadable; ///< why the last load could not read a main file that is there
     bool m_backupIsTheGoodOne = false;     ///< the last load found the main file bad, and it still is
+
+    mutable std::mutex m_parsedLock;
+    mutable Parsed m_parsed; ///< of the main file; no content before the first
 };
 
 } // namespace tavrik

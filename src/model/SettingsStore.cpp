@@ -6,8 +6,9 @@ SettingsStore::Snapshot SettingsStore::snapshot() {
     const std::lock_guard lock(m_cacheLock);
     if (!m_cache) {
         // A good file is read beside a running write; only its repair takes a turn.
-        auto content = m_file.read();
-        m_cache = std::make_shared<const plist::Dictionary>(content ? std::move(*content) : load());
+        m_cache = m_file.read();
+        if (!m_cache)
+            m_cache = std::make_shared<const plist::Dictionary>(load());
     }
     return m_cache;
 }

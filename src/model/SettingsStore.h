@@ -33,8 +33,8 @@ public:
     /// From the disk, the cache left alone. An empty dictionary at worst.
     plist::Dictionary load();
 
-    /// What a restart would find in the main file.
-    std::optional<plist::Dictionary> onDisk() const { return m_file.read(); }
+    /// What a restart would find in the main file; null when that is nothing.
+    Snapshot onDisk() const { return m_file.read(); }
 
     Saved save(const plist::Dictionary& settings);
     Saved change(const Edit& edit);
