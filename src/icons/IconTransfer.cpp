@@ -47,8 +47,8 @@ bool IconTransfer::begin(const std::vector<Application>& applications) {
             return interrupted.error();
         TransferRecords records;
         for (const Application& application : applications) {
-            const auto earlier = interrupted->find(application.bundleID);
-            auto record = recordOf(application, earlier == interrupted->end() ? nullptr : &earlier->second);
+            const auto earlier = (*interrupted)->find(application.bundleID);
+            auto record = recordOf(application, earlier == (*interrupted)->end() ? nullptr : &earlier->second);
             if (!record)
                 return record.error();
             records.emplace(application.bundleID, std::move(*record));
@@ -103,31 +103,39 @@ Result<TransferRecord> IconTransfer::recordOf(const Application& application,
     return record;
 }
 
-Result<TransferRecords> IconTransfer::read() const {
-    const auto data = checkFolder() ? m_files.read(m_recordURL, kLargestRecord) : Error{{}, ENOENT};
+/// Never null.
+Result<IconTransfer::Records> IconTransfer::read() const {
+    const Records none = std::make_shared<const TransferRecords>();
+    auto data = checkFolder() ? m_files.read(m_recordURL, kLargestRecord) : Error{{}, ENOENT};
     if (!data && data.error().code == ENOENT)
-        return TransferRecords();
+        return none;
+    if (data && m_records && *data == m_decoded)
+        return m_records;
     const auto root = data ? plist::parse(*data) : data.error();
     if (!root) {
         log("Failed to read the record of the icon transfer: " + root.error().description);
-        return data ? TransferRecords() : Result<TransferRecords>(data.error());
+        return data ? none : Result<Records>(data.error());
     }
     std::vector<std::string> remarks;
-    TransferRecords records = decodeTransferRecords(*root, m_store, remarks);
+    auto records = std::make_shared<const TransferRecords>(decodeTransferRecords(*root, m_store, remarks));
     for (const std::string& remark : remarks)
         log(remark);
-    return records;
+    if (remarks.empty()) {
+        m_decoded = std::move(*data);
+        m_records = records;
+    }
+    return Records(std::move(records));
 }
 
-TransferRecords IconTransfer::load() const {
+IconTransfer::Records IconTransfer::load() const {
     auto records = read();
-    return records ? std::move(*records) : TransferRecords();
+    return records ? std::move(*records) : std::make_shared<const TransferRecords>();
 }
 
 IconTransfer::Places IconTransfer::run(const std::string& bundleID, const std::string& name) {
-    const TransferRecords records = load();
-    const auto entry = records.find(bundleID);
-    if (entry == records.end())
+    const Records records = load();
+    const auto entry = records->find(bundleID);
+    if (entry == records->end())
         return {};
     const TransferRecord& record = entry->second;
     const auto before = look(bundleID);
@@ -186,7 +194,8 @@ std::optional<IconWhereabouts> IconTransfer::look(const std::string& bundleID) c
 
 std::vector<std::string> IconTransfer::interrupted() const {
     std::vector<std::string> bundleIDs;
-    for (const auto& [bundleID, record] : load())
+    const Records records = load();
+    for (const auto& [bundleID, record] : *records)
         bundleIDs.push_back(bundleID);
     return bundleIDs;
 }
@@ -196,7 +205,7 @@ Result<std::map<std::string, std::vector<MacPath>>> IconTransfer::recorded() con
     if (!records)
         return records.error();
     std::map<std::string, std::vector<MacPath>> shown;
-    for (const auto& [bundleID, record] : *records) {
+    for (const auto& [bundleID, record] : **records) {
         std::vector<MacPath>& paths = shown[bundleID];
         for (const RecordedIcon& icon : record.shown)
             paths.push_back(icon.path);
@@ -205,7 +214,8 @@ Result<std::map<std::string, std::vector<MacPath>>> IconTransfer::recorded() con
 }
 
 void IconTransfer::abandon() {
-    for (const auto& [bundleID, record] : load()) {
+    const Records records = load();
+    for (const auto& [bundleID, record] : *records) {
         const auto before = look(bundleID);
         if (!before)
             continue;

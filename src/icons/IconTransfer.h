@@ -2,10 +2,12 @@
 
 #include "icons/IconWhereabouts.h"
 #include "icons/TransferRecord.h"
+#include "platform/Bytes.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -69,8 +71,10 @@ public:
 
 private:
     Status checkFolder() const;
-    Result<TransferRecords> read() const;
-    TransferRecords load() const;
+    using Records = std::shared_ptr<const TransferRecords>;
+
+    Result<Records> read() const;
+    Records load() const;
     std::optional<IconWhereabouts> look(const std::string& bundleID) const;
     Result<TransferRecord> recordOf(const Application& application, const TransferRecord* interrupted) const;
     void keepSelection(const std::string& bundleID, const TransferRecord& record,
@@ -80,6 +84,10 @@ private:
     SettingsManager& m_settings;
     IconStore& m_store;
     const MacPath m_recordURL;
+
+    /// What was decoded last, without a remark, and of what: a run reads the record for each application.
+    mutable Bytes m_decoded;
+    mutable Records m_records;
 };
 
 } // namespace tavrik
