@@ -134,6 +134,15 @@ void SettingsManager::saveMapping(const std::string& bundleID, RowID originalRow
                           [&](plist::Dictionary& all) { all[bundleID] = settings::encode(mapping); });
 }
 
+void SettingsManager::saveMappingAndEndSwap(const std::string& bundleID, RowID originalRowID,
+                                            RowID tavrikRowID) {
+    const TavrikMapping mapping{originalRowID, tavrikRowID, m_clock.now()};
+    m_store.change([&](plist::Dictionary& root) {
+        ensureDictionaryAt(root, kMappings)[bundleID] = settings::encode(mapping);
+        ensureDictionaryAt(root, kSwapRecords).erase(bundleID);
+    });
+}
+
 std::optional<TavrikMapping> SettingsManager::getMapping(const std::string& bundleID) {
     return entry<TavrikMapping>(kMappings, bundleID);
 }
@@ -149,11 +158,17 @@ void SettingsManager::removeMapping(const std::string& bundleID) {
 // Selected icons
 
 void SettingsManager::setSelectedIcon(const std::string& bundleID, std::optional<std::int64_t> index) {
+    setSelectedIcons({{bundleID, index}});
+}
+
+void SettingsManager::setSelectedIcons(const std::map<std::string, std::optional<std::int64_t>>& indices) {
     m_store.changeEntries(kSelectedIcons, [&](plist::Dictionary& all) {
-        if (index)
-            all[bundleID] = *index;
-        else
-            all.erase(bundleID);
+        for (const auto& [bundleID, index] : indices) {
+            if (index)
+                all[bundleID] = *index;
+            else
+                all.erase(bundleID);
+        }
     });
 }
 

@@ -58,12 +58,16 @@ public:
     void removeEntry(std::string_view subkey, std::string_view key);
 
     void saveMapping(const std::string& bundleID, RowID originalRowID, RowID tavrikRowID);
+    /// The same where the swap is all that there was to do: its record goes in the same write.
+    void saveMappingAndEndSwap(const std::string& bundleID, RowID originalRowID, RowID tavrikRowID);
     std::optional<TavrikMapping> getMapping(const std::string& bundleID);
     std::map<std::string, TavrikMapping> getAllMappings();
     void removeMapping(const std::string& bundleID);
 
     /// Nothing removes the application's entry.
     void setSelectedIcon(const std::string& bundleID, std::optional<std::int64_t> index);
+    /// Of several applications, in one write.
+    void setSelectedIcons(const std::map<std::string, std::optional<std::int64_t>>& indices);
     std::optional<std::int64_t> getSelectedIcon(const std::string& bundleID);
 
     /// `appliedDate` is set to now. Nothing removes the key. For when the titles show this style already: a

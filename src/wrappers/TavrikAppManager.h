@@ -112,7 +112,8 @@ private:
     void removeExisting(const MacPath& wrapper);
     bool setIcon(const ApplicationInfo& app, const MacPath& wrapper, const QImage& icon);
     void recordHiddenApp(const ApplicationInfo& app, const Row& original);
-    bool saveMapping(const ApplicationInfo& app, const Row& original, RowID wrapper);
+    enum class Then { moreToDo, finished };
+    bool saveMapping(const ApplicationInfo& app, const Row& original, RowID wrapper, Then then);
     void cleanUp(const ApplicationInfo& app, const MacPath& wrapper, const CleanUpLines& lines);
 
     bool dropMapping(const std::string& bundleID);

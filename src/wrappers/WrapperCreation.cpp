@@ -92,7 +92,7 @@ bool TavrikAppManager::createAnew(const ApplicationInfo& app, const QImage& icon
         return false;
     }
     log("Successfully swapped to tavrik app");
-    if (!saveMapping(app, *original, *wrapperRow)) {
+    if (!saveMapping(app, *original, *wrapperRow, Then::moreToDo)) {
         cleanUp(app, wrapper, kLines);
         return false;
     }
@@ -176,13 +176,14 @@ bool TavrikAppManager::completeCreation(const ApplicationInfo& app) {
         return false;
     }
     log("    Successfully swapped to tavrik app");
-    if (!saveMapping(app, *original, *wrapperRow)) {
+    const bool isInDock = m_dock.isAppInDock(app.bundleID);
+    if (!saveMapping(app, *original, *wrapperRow, isInDock ? Then::moreToDo : Then::finished)) {
         cleanUp(app, *wrapper, kAfterSwapLines);
         return false;
     }
 
     // The same in the Dock.
-    if (m_dock.isAppInDock(app.bundleID)) {
+    if (isInDock) {
         registerWrapper(*wrapper);
         if (!m_dock.updateDockEntry(app.bundleID, *wrapper))
             log("    WARNING: Failed to update Dock bookmark");
@@ -239,14 +240,19 @@ void TavrikAppManager::recordHiddenApp(const ApplicationInfo& app, const Row& or
     log("Recorded hidden flag app before creation: " + app.bundleID);
 }
 
-/// False when the settings could not be written.
-bool TavrikAppManager::saveMapping(const ApplicationInfo& app, const Row& original, RowID wrapper) {
-    m_settings.saveMapping(app.bundleID, original.entry.rowID, wrapper);
+/// Where nothing else is left to do, the record of the exchange goes in the same write. False when the settings
+/// could not be written.
+bool TavrikAppManager::saveMapping(const ApplicationInfo& app, const Row& original, RowID wrapper, Then then) {
+    const auto hidden = m_settings.getHiddenFlagApp(app.bundleID);
+    if (then == Then::finished && !hidden)
+        m_settings.saveMappingAndEndSwap(app.bundleID, original.entry.rowID, wrapper);
+    else
+        m_settings.saveMapping(app.bundleID, original.entry.rowID, wrapper);
     if (!m_settings.getMapping(app.bundleID)) {
         log("ERROR: Failed to save the mapping of " + app.bundleID);
         return false;
     }
-    if (const auto hidden = m_settings.getHiddenFlagApp(app.bundleID)) {
+    if (hidden) {
         m_settings.saveHiddenFlagApp(app.bundleID, hidden->originalFlags, hidden->originalRowID, wrapper,
                                      hidden->wasHiddenFlag);
         log("Updated hidden flag app record with tavrikRowID: " + text(wrapper));

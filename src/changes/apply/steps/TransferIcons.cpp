@@ -6,6 +6,9 @@
 #include "platform/Log.h"
 
 #include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
 
 namespace tavrik {
 
@@ -32,7 +35,9 @@ Chosen chosenOf(const ApplyRun& run, const ApplyTask& task, const IconTransfer::
     return task.themeIcon ? Chosen{task.themeIcon, static_cast<std::int64_t>(count + behind)} : Chosen{};
 }
 
-void transfer(ApplyRun& run, const ApplyTask& task) {
+using SelectedIcons = std::map<std::string, std::optional<std::int64_t>>;
+
+void transfer(ApplyRun& run, const ApplyTask& task, SelectedIcons& selected) {
     const std::string& bundleID = task.app.bundleID;
     const std::string& name = task.app.name;
     log("Processing icon changes for " + name);
@@ -48,7 +53,7 @@ void transfer(ApplyRun& run, const ApplyTask& task) {
 
     const Chosen chosen = chosenOf(run, task, places);
     run.earlierIcons.emplace(bundleID, run.with.settings.getSelectedIcon(bundleID));
-    run.with.settings.setSelectedIcon(bundleID, chosen.number);
+    selected.emplace(bundleID, chosen.number);
     log("  Saved selected index: " + std::to_string(chosen.number.value_or(-1)));
     if (run.with.icons.removePendingFolderIfEmpty(bundleID))
         log("🧹 Removed empty pending directory for: " + name);
@@ -70,11 +75,16 @@ Next transferIcons(ApplyRun& run) {
             run.fail(task.app, "Its icons could not be moved: nothing can be written. They stay staged.");
         return Next::goOn;
     }
+    SelectedIcons selected;
     for (const ApplyTask& task : run.snapshot.tasks) {
         run.report(run.magicPhrase());
-        transfer(run, task);
+        transfer(run, task, selected);
         run.stepsDone += 0.5;
     }
+    // In one write for all. Until then the settings name the icons of before, also after a kill: the record of
+    // the transfer tells which they are.
+    if (!selected.empty())
+        run.with.settings.setSelectedIcons(selected);
     return Next::goOn;
 }
 
