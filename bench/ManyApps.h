@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Path.h"
+
+#include <string>
+#include <vector>
+
+namespace tavrik::bench {
+
+/// Furnishes a practice Mac whose Launchpad holds so many applications, each in a bundle of its own, which a
+/// wrapper needs; one in five has a tile in the Dock. The programs are what stands for the system's tools; an
+/// empty path leaves them out. Ends the process when it cannot.
+void furnishWithApps(const HostPath& root, int apps, const HostPath& tool);
+
+/// The bundle identifiers of those applications, in order.
+std::vector<std::string> manyApps(int apps);
+
+} // namespace tavrik::bench
