@@ -69,7 +69,8 @@ Next closeAffectedApps(ApplyRun& run) {
          .style = AlertStyle::warning});
     if (answer != kCloseAll)
         return cancel(run, "User cancelled applying changes due to running apps",
-                      "These applications are running and must be closed first: " + joined(affected, ", ") + ".");
+                      "These applications are running and must be closed first: " + joined(affected, ", ") +
+                          ".");
 
     std::vector<ApplicationInfo> left;
     for (const ApplicationInfo& app : affected) {
