@@ -1,3 +1,4 @@
+#include "Application.h"
 #include "app/Managers.h"
 #include "icons/IconFiles.h"
 #include "platform/Icns.h"
@@ -6,8 +7,6 @@
 #include "support/practice/VirtualMac.h"
 #include "system/IconManager.h"
 #include "themes/ThemeManager.h"
-
-#include <QCoreApplication>
 
 #include <gmock/gmock.h>
 
@@ -29,14 +28,6 @@ QImage picture(const QColor& colour, int side = 64) {
     image.fill(colour);
     return image;
 }
-
-/// Before the Mac, whose threads use Qt too.
-struct Application {
-    int argc = 1;
-    char name[6] = "tests";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
-};
 
 class ThemeApplying : public testing::Test, protected Application {
 protected:

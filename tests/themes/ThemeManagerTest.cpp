@@ -1,5 +1,6 @@
 #include "themes/ThemeManager.h"
 
+#include "Application.h"
 #include "app/Managers.h"
 #include "icons/IconFiles.h"
 #include "platform/Png.h"
@@ -8,7 +9,6 @@
 #include "support/practice/VirtualMac.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QThread>
 
 #include <gmock/gmock.h>
@@ -33,14 +33,6 @@ QImage picture(int colour) {
     image.fill(QColor(colour, 0, 0));
     return image;
 }
-
-/// Before the Mac, whose threads use Qt too.
-struct Application {
-    int argc = 1;
-    char name[6] = "tests";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
-};
 
 class ThemeManagerTest : public testing::Test, protected Application, protected VirtualMac {
 protected:
