@@ -123,13 +123,19 @@ Result<Theme> ThemeLibrary::read(const MacPath& record, const std::string& folde
 
 // Themes
 
+/// Where a record may be written; an error for one that could not be read again.
+Result<MacPath> ThemeLibrary::folderFor(const Theme& theme) const {
+    auto folder = plainFolderOf(theme.themeID);
+    if (folder && !isValidThemeName(theme.name))
+        return errorOf(ThemeError::invalidThemeName);
+    return folder;
+}
+
 Status ThemeLibrary::create(const Theme& theme, const std::map<std::string, Bytes>& icons) {
     const std::lock_guard lock(m_changing);
-    const auto folder = plainFolderOf(theme.themeID);
+    const auto folder = folderFor(theme);
     if (!folder)
         return folder.error();
-    if (!isValidThemeName(theme.name))
-        return errorOf(ThemeError::invalidThemeName);
     if (Status made = createFolder(); !made)
         return made;
 
@@ -172,11 +178,9 @@ Status ThemeLibrary::fill(const MacPath& folder, const Theme& theme,
 
 Status ThemeLibrary::update(const Theme& theme) {
     const std::lock_guard lock(m_changing);
-    const auto folder = plainFolderOf(theme.themeID);
+    const auto folder = folderFor(theme);
     if (!folder)
         return folder.error();
-    if (!isValidThemeName(theme.name))
-        return errorOf(ThemeError::invalidThemeName);
     const auto record = encodeTheme(theme);
     return record ? writeAtomically(m_files, *folder / kRecord, *record) : record.error();
 }

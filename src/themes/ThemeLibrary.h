@@ -83,6 +83,7 @@ public:
 private:
     /// A theme's folder, or that of its icons, there or not, when no link stands in the way.
     Result<MacPath> plainFolderOf(const std::string& themeID) const;
+    Result<MacPath> folderFor(const Theme& theme) const;
     Result<MacPath> plainIconsOf(const std::string& themeID) const;
     Result<Theme> read(const MacPath& record, const std::string& folderName) const;
     Status fill(const MacPath& folder, const Theme& theme, const std::map<std::string, Bytes>& icons);
