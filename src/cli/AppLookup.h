@@ -17,7 +17,4 @@ inline constexpr const char* kNoCatalogue =
 /// The application with exactly this bundle identifier. The error is a sentence that names the nearest ones.
 Result<ApplicationInfo> findApp(const std::vector<ApplicationInfo>& apps, const std::string& bundleID);
 
-/// Why an application cannot be restyled, in a sentence; empty when it can.
-std::string refusal(const ApplicationInfo& app, bool isListedUnsupported);
-
 } // namespace tavrik

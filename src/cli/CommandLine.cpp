@@ -2,11 +2,14 @@
 
 #include "cli/ApplyCommands.h"
 #include "cli/BackupCommands.h"
+#include "cli/DoctorCommand.h"
 #include "cli/FontCommands.h"
 #include "cli/IconCommands.h"
 #include "cli/ListCommands.h"
 #include "cli/PracticeCommands.h"
+#include "cli/RemoveEverythingCommand.h"
 #include "cli/StagingCommands.h"
+#include "cli/StartCommand.h"
 #include "cli/WrapperCommands.h"
 
 namespace tavrik {
@@ -76,6 +79,7 @@ CommandLine::CommandLine()
     declareThemes();
     declareWrappers();
     declareBackups();
+    declareMaintenance();
     declarePractice();
 }
 
@@ -195,6 +199,22 @@ void CommandLine::declareBackups() {
     BackupKeepCommand& keep = add<BackupKeepCommand>(
         backup, "keep", "Set how many dated backups are kept; the Original State always is", command);
     command->add_option("N", keep.count, "1 or more")->required()->check(mustBeCount);
+}
+
+void CommandLine::declareMaintenance() {
+    CLI::App* command = nullptr;
+    add<StartCommand>(m_parser, "start", "Run the checks of the program's start, with their questions",
+                      command);
+
+    auto& doctor = add<DoctorCommand>(m_parser, "doctor", "Say what is not as it should be", command);
+    addJson(*command, doctor.json);
+    command->add_flag("--repair", doctor.repair, "Mend what can be mended, and say what was done");
+
+    auto& removal = add<RemoveEverythingCommand>(
+        m_parser, "remove-everything", "Take all that was restyled back, and the wrappers away", command);
+    command->add_flag("--yes", removal.yes, "Do not ask");
+    command->add_flag("--delete-support-folder", removal.deleteSupportFolder,
+                      "Also delete icons, themes, backups and settings, for good, without asking");
 }
 
 void CommandLine::declarePractice() {

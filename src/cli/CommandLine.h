@@ -37,6 +37,7 @@ private:
     void declareThemeFiles(CLI::App& theme);
     void declareWrappers();
     void declareBackups();
+    void declareMaintenance();
     void declarePractice();
 
     template<typename T, typename... Arguments>

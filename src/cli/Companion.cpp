@@ -2,6 +2,7 @@
 
 #include "app/PracticeHost.h"
 #include "cli/AppLookup.h"
+#include "model/catalogue/Refusal.h"
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
 

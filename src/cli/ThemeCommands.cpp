@@ -6,6 +6,7 @@
 #include "cli/ThemeJson.h"
 #include "cli/ThemeLookup.h"
 #include "cli/Words.h"
+#include "model/catalogue/Refusal.h"
 #include "themes/ThemeCoverage.h"
 
 #include <algorithm>

@@ -48,6 +48,9 @@ public:
     /// file.
     virtual Result<Bytes> read(const MacPath& file, std::size_t most = kLargestRead) const = 0;
 
+    /// At most so many bytes from its start: all of a shorter file. Plain files only, of any size.
+    virtual Result<Bytes> readBeginning(const MacPath& file, std::size_t bytes) const = 0;
+
     /// Writes over the file in place in one write, creating it when missing. Not atomic: a failure in the
     /// middle leaves it cut.
     virtual Status write(const MacPath& file, ByteView data) = 0;

@@ -23,6 +23,11 @@ std::error_code expectPlainFile(const FileDescriptor& file, struct stat& status)
     return S_ISREG(status.st_mode) ? std::error_code() : std::make_error_code(std::errc::invalid_argument);
 }
 
+std::error_code openPlainFile(const std::string& path, FileDescriptor& file, struct stat& status) {
+    file = FileDescriptor::open(AT_FDCWD, path, O_RDONLY);
+    return file ? expectPlainFile(file, status) : lastError();
+}
+
 /// The file may be longer or shorter than it was when asked for its size.
 std::error_code readToEnd(FileDescriptor& file, std::size_t expected, std::size_t most, Bytes& content) {
     content.resize(std::max(expected + 1, kLeastBuffer));
@@ -67,11 +72,9 @@ Result<Bytes> PosixFileManager::read(const MacPath& file, std::size_t most) cons
     const auto path = locate(file, Links::follow);
     if (!path)
         return path.error();
-    FileDescriptor opened = FileDescriptor::open(AT_FDCWD, *path, O_RDONLY);
-    if (!opened)
-        return failure(file, lastError());
+    FileDescriptor opened;
     struct stat status{};
-    if (const auto failed = expectPlainFile(opened, status))
+    if (const auto failed = openPlainFile(*path, opened, status))
         return failure(file, failed);
     const auto size = static_cast<std::size_t>(status.st_size);
     if (size > most)
@@ -79,6 +82,28 @@ Result<Bytes> PosixFileManager::read(const MacPath& file, std::size_t most) cons
     Bytes content;
     if (const auto failed = readToEnd(opened, size, most, content))
         return failure(file, failed);
+    return content;
+}
+
+Result<Bytes> PosixFileManager::readBeginning(const MacPath& file, std::size_t bytes) const {
+    const auto path = locate(file, Links::follow);
+    if (!path)
+        return path.error();
+    FileDescriptor opened;
+    struct stat status{};
+    if (const auto failed = openPlainFile(*path, opened, status))
+        return failure(file, failed);
+    Bytes content(bytes);
+    std::size_t filled = 0;
+    while (filled < bytes) {
+        const ssize_t count = opened.read(std::span(content).subspan(filled));
+        if (count < 0)
+            return failure(file, lastError());
+        if (count == 0)
+            break;
+        filled += static_cast<std::size_t>(count);
+    }
+    content.resize(filled);
     return content;
 }
 

@@ -25,6 +25,7 @@ public:
     Result<FileAttributes> attributes(const MacPath& path, Links links = Links::follow) const override;
     Result<std::vector<std::string>> list(const MacPath& folder) const override;
     Result<Bytes> read(const MacPath& file, std::size_t most = kLargestRead) const override;
+    Result<Bytes> readBeginning(const MacPath& file, std::size_t bytes) const override;
     Status write(const MacPath& file, ByteView data) override;
     Status create(const MacPath& file, ByteView data) override;
     Status flush(const MacPath& path) override;

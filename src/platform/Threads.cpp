@@ -10,7 +10,6 @@ namespace tavrik {
 namespace {
 
 std::atomic<std::thread::id> mainThread;
-thread_local int permissionsToBlock = 0;
 
 } // namespace
 
@@ -23,7 +22,7 @@ bool isMainThread() {
 }
 
 void assertOffMainThread(const char* what) {
-    if (!isMainThread() || permissionsToBlock > 0)
+    if (!isMainThread())
         return;
     std::fprintf(stderr, "%s must not run on the main thread: it blocks\n", what);
     std::abort();
@@ -34,14 +33,6 @@ void assertOnMainThread(const char* what) {
         return;
     std::fprintf(stderr, "%s must run on the main thread\n", what);
     std::abort();
-}
-
-MainThreadMayBlock::MainThreadMayBlock() {
-    ++permissionsToBlock;
-}
-
-MainThreadMayBlock::~MainThreadMayBlock() {
-    --permissionsToBlock;
 }
 
 } // namespace tavrik

@@ -16,14 +16,4 @@ void assertOffMainThread(const char* what);
 /// interface. Passes while no thread is named the main one.
 void assertOnMainThread(const char* what);
 
-/// Lets the main thread block for as long as it lives: start-up maintenance, which runs before there is a
-/// window to freeze.
-class MainThreadMayBlock {
-public:
-    MainThreadMayBlock();
-    ~MainThreadMayBlock();
-    MainThreadMayBlock(const MainThreadMayBlock&) = delete;
-    MainThreadMayBlock& operator=(const MainThreadMayBlock&) = delete;
-};
-
 } // namespace tavrik

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/Bytes.h"
 #include "platform/Path.h"
 
 #include <QImage>
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace tavrik {
@@ -18,6 +21,20 @@ public:
     /// The best picture of a bundle at its full size: the first of its icon files that loads, else the
     /// workspace's icon. Never null. Any thread; reads files.
     QImage appIcon(const MacPath& atPath) const;
+
+    /// The same picture at the smallest size that is offered and has at least so many pixels a side, else at
+    /// the largest: quick to decode where the icon file has small representations. Never null. Any thread;
+    /// reads files.
+    QImage appIcon(const MacPath& atPath, int atLeast) const;
+
+    /// What an application's icon is recognised by without decoding it.
+    struct IconData {
+        std::uint64_t byteCount = 0; ///< of the icon file, or of the bitmap when there is none
+        Bytes beginning;             ///< its first bytes
+    };
+
+    /// Of the file, or else the bitmap, that `appIcon` shows. Any thread; reads files.
+    IconData appIconData(const MacPath& atPath, std::size_t beginningBytes) const;
 
     /// The picture fitted and centred in a new transparent square of 1024 pixels, in sRGB; an odd remainder
     /// goes to the right and the bottom. Nothing, with a log line, when the bitmap cannot be made. Pure; any

@@ -60,6 +60,10 @@ public:
         return attempt("read", path, &FileManager::read, path, most);
     }
 
+    Result<Bytes> readBeginning(const MacPath& path, std::size_t bytes) const override {
+        return attempt("readBeginning", path, &FileManager::readBeginning, path, bytes);
+    }
+
     Status write(const MacPath& path, ByteView data) override {
         return attempt("write", path, &FileManager::write, path, data);
     }

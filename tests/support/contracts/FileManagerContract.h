@@ -75,6 +75,8 @@ TYPED_TEST_P(FileManagerContract, TellsWhatIsThereThroughLinksOrNot) {
     EXPECT_NE(target->fileID, link->fileID);
     EXPECT_EQ(*this->files.readLink(this->at("dangling")), "nowhere");
     EXPECT_THAT(*this->files.list(this->at("")), testing::ElementsAre("dangling", "folder", "link"));
+    EXPECT_EQ(textOf(*this->files.readBeginning(this->at("link"), 6)), "twelve");
+    EXPECT_EQ(textOf(*this->files.readBeginning(this->at("link"), 60)), "twelve bytes");
 }
 
 TYPED_TEST_P(FileManagerContract, GivesTheSystemsErrorAndChangesNothing) {
@@ -91,6 +93,7 @@ TYPED_TEST_P(FileManagerContract, GivesTheSystemsErrorAndChangesNothing) {
     EXPECT_EQ(this->refused([&] { return manager.read(at("folder")); }), EISDIR);
     EXPECT_EQ(this->refused([&] { return manager.read(at("file"), 6); }), EFBIG);
     EXPECT_EQ(this->refused([&] { return manager.read(at("circle")); }), ELOOP);
+    EXPECT_EQ(this->refused([&] { return manager.readBeginning(at("folder"), 3); }), EISDIR);
     EXPECT_EQ(this->refused([&] { return manager.list(at("file")); }), ENOTDIR);
     EXPECT_EQ(this->refused([&] { return manager.readLink(at("file")); }), EINVAL);
     EXPECT_EQ(this->refused([&] { return manager.resolveLinks(at("dangling")); }), ENOENT);

@@ -1,0 +1,1 @@
+#include "icons/IconShapeAnalysis.h"

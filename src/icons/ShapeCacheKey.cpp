@@ -1,0 +1,1 @@
+#include "icons/ShapeCacheKey.h"

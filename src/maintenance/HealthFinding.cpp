@@ -1,0 +1,1 @@
+#include "maintenance/HealthFinding.h"
