@@ -3,8 +3,8 @@
 #include "icons/IconStore.h"
 #include "icons/ImageIntake.h"
 #include "model/catalogue/AppManager.h"
+#include "platform/OnAllCores.h"
 #include "platform/Path.h"
-#include "themes/OnAllCores.h"
 #include "themes/ThemeIconName.h"
 #include "themes/ThemeManager.h"
 

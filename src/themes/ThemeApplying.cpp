@@ -8,8 +8,8 @@
 #include "platform/Mac.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/OnAllCores.h"
 #include "platform/Threads.h"
-#include "themes/OnAllCores.h"
 #include "themes/ThemeFile.h"
 #include "themes/ThemeManager.h"
 

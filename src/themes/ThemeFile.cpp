@@ -1,6 +1,6 @@
 #include "themes/ThemeFile.h"
 
-#include "themes/OnAllCores.h"
+#include "platform/OnAllCores.h"
 #include "themes/ThemeError.h"
 #include "themes/ThemeFileParts.h"
 #include "themes/ThemeIconCheck.h"

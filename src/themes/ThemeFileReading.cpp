@@ -1,5 +1,5 @@
+#include "platform/OnAllCores.h"
 #include "platform/PathComponent.h"
-#include "themes/OnAllCores.h"
 #include "themes/ThemeError.h"
 #include "themes/ThemeFile.h"
 #include "themes/ThemeFileParts.h"

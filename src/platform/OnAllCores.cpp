@@ -1,4 +1,4 @@
-#include "themes/OnAllCores.h"
+#include "platform/OnAllCores.h"
 
 #include "platform/ConcurrentQueue.h"
 
@@ -26,7 +26,7 @@ Status onAllCores(std::size_t count, const std::function<Status(std::size_t)>& w
         }
     };
     {
-        ConcurrentQueue helpers("themes");
+        ConcurrentQueue helpers("all cores");
         const std::size_t width = std::min<std::size_t>(count, ConcurrentQueue::defaultWidth());
         for (std::size_t helper = 1; helper < width; ++helper)
             helpers.async(run);
