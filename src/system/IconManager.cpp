@@ -5,15 +5,17 @@
 #include "platform/Icns.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
-#include "platform/PathComponent.h"
-#include "platform/PropertyList.h"
+#include "platform/Png.h"
 #include "platform/StandardPicture.h"
 #include "platform/Workspace.h"
+#include "system/AppIconFiles.h"
 
 #include <QColorSpace>
 
 #include <algorithm>
-#include <array>
+#include <limits>
+#include <utility>
+#include <vector>
 
 namespace tavrik {
 
@@ -22,40 +24,32 @@ namespace {
 constexpr int kSquareSide = 1024; ///< pixels
 /// Scaled premultiplied, so that the colour of transparent pixels does not bleed into the edges.
 constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
-constexpr std::size_t kLargestInfoPlist = 16u << 20;
 constexpr std::size_t kLargestIconFile = 64u << 20;
 
-/// The icon file that the bundle's information dictionary names, without ".icns"; empty when there is none. The
-/// dictionary is the application's, so the name is not trusted as a path.
-std::string namedIconFile(const FileManager& files, const MacPath& bundle) {
-    for (const char* place : {"Contents/Info.plist", "WrappedBundle/Info.plist", "Info.plist"}) {
-        const auto data = files.read(bundle / place, kLargestInfoPlist);
-        if (!data)
-            continue;
-        const auto info = plist::parse(*data);
-        const auto* value = info ? info->find<std::string>("CFBundleIconFile") : nullptr;
-        if (!value)
-            return {};
-        std::string_view name = *value;
-        if (name.ends_with(".icns"))
-            name.remove_suffix(5);
-        return isSafePathComponent(name) ? std::string(name) : std::string();
-    }
-    return {};
+/// The representations worth decoding, in this order: those of at least so many pixels a side from the
+/// smallest, or else the largest alone, the first of equals.
+std::vector<icns::Representation> fitting(std::vector<icns::Representation> offered, int atLeast) {
+    const auto side = [](const icns::Representation& each) { return std::min(each.width, each.height); };
+    std::ranges::stable_sort(offered, {}, side);
+    const auto enough = std::ranges::lower_bound(offered, atLeast, {}, side);
+    if (enough != offered.end())
+        return {enough, offered.end()};
+    if (offered.empty())
+        return {};
+    return {*std::ranges::lower_bound(offered, side(offered.back()), {}, side)};
 }
 
-/// An icon file at its largest representation, the first of equals. Null when it does not load.
-QImage loadIconFile(ByteView data) {
+/// Null when the file does not load.
+QImage loadIconFile(ByteView data, int atLeast) {
     // Some applications ship a plain picture under the name of an icon file.
     if (!textOf(data).starts_with("icns"))
         return QImage::fromData(data.data(), static_cast<int>(data.size()));
-    const auto representations = icns::representations(data);
-    if (representations.empty())
-        return QImage();
-    const auto largest =
-        std::max_element(representations.begin(), representations.end(),
-                         [](const auto& left, const auto& right) { return left.width < right.width; });
-    return icns::decode(data, *largest);
+    for (const auto& representation : fitting(icns::representations(data), atLeast)) {
+        QImage image = icns::decode(data, representation);
+        if (!image.isNull())
+            return image;
+    }
+    return QImage();
 }
 
 /// Averages areas on the way down and interpolates on the way up. Null when there is no memory for it.
@@ -74,21 +68,34 @@ QImage scaledInSRGB(const QImage& picture, QSize size) {
 IconManager::IconManager(Mac& mac) : m_mac(mac) {}
 
 QImage IconManager::appIcon(const MacPath& atPath) const {
-    const std::array<std::string, 4> names{namedIconFile(m_mac.files, atPath), "icon", "Icon", "app"};
-    for (const std::string& name : names) {
-        if (name.empty())
-            continue;
-        for (const char* place : {"Contents/Resources", "WrappedBundle", ""}) {
-            const auto data = m_mac.files.read(atPath / place / (name + ".icns"), kLargestIconFile);
-            if (!data)
-                continue;
-            QImage image = loadIconFile(*data);
-            if (!image.isNull())
-                return image;
-            break;
-        }
+    return appIcon(atPath, std::numeric_limits<int>::max());
+}
+
+QImage IconManager::appIcon(const MacPath& atPath, int atLeast) const {
+    AppIconFiles candidates(m_mac.files, atPath);
+    while (const auto file = candidates.next()) {
+        const auto data = m_mac.files.read(file->path, kLargestIconFile);
+        QImage image = data ? loadIconFile(*data, atLeast) : QImage();
+        if (!image.isNull())
+            return image;
     }
     return m_mac.workspace.icon(atPath);
+}
+
+IconManager::IconData IconManager::appIconData(const MacPath& atPath, std::size_t beginningBytes) const {
+    AppIconFiles candidates(m_mac.files, atPath);
+    while (const auto file = candidates.next()) {
+        auto beginning = m_mac.files.readBeginning(file->path, std::max(beginningBytes, kIconFileHeader));
+        if (!beginning || file->size > kLargestIconFile || !mayBeIconFile(*beginning, file->size))
+            continue;
+        beginning->resize(std::min(beginning->size(), beginningBytes));
+        return {file->size, std::move(*beginning)};
+    }
+    const auto coded = png::encode(m_mac.workspace.icon(atPath));
+    if (!coded)
+        return {};
+    const ByteView beginning = ByteView(*coded).first(std::min(beginningBytes, coded->size()));
+    return {coded->size(), Bytes(beginning.begin(), beginning.end())};
 }
 
 std::optional<QImage> IconManager::squareIcon(const QImage& from) {

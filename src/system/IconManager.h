@@ -22,18 +22,20 @@ public:
     /// workspace's icon. Never null. Any thread; reads files.
     QImage appIcon(const MacPath& atPath) const;
 
-    /// The same picture at the smallest size that is offered and has at least so many pixels a side, else at
-    /// the largest: quick to decode where the icon file has small representations. Never null. Any thread;
-    /// reads files.
+    /// The same at the smallest size that is offered, can be decoded, and has at least so many pixels a side,
+    /// else at the largest: quick where the icon file has small representations. Never null. Any thread; reads
+    /// files.
     QImage appIcon(const MacPath& atPath, int atLeast) const;
 
     /// What an application's icon is recognised by without decoding it.
     struct IconData {
-        std::uint64_t byteCount = 0; ///< of the icon file, or of the bitmap when there is none
+        std::uint64_t byteCount = 0; ///< of the icon file, or of the bitmap as PNG when there is none
         Bytes beginning;             ///< its first bytes
     };
 
-    /// Of the file, or else the bitmap, that `appIcon` shows. Any thread; reads files.
+    /// Of the file, or else the bitmap, that `appIcon` shows, as far as the beginning of a file tells that it
+    /// can be decoded. The bitmap as PNG, since its pixels begin with transparent ones in nearly every icon.
+    /// Any thread; reads files.
     IconData appIconData(const MacPath& atPath, std::size_t beginningBytes) const;
 
     /// The picture fitted and centred in a new transparent square of 1024 pixels, in sRGB; an odd remainder

@@ -1,6 +1,7 @@
 #include "system/IconManager.h"
 
 #include "platform/Icns.h"
+#include "platform/Png.h"
 #include "platform/PropertyList.h"
 #include "platform/Workspace.h"
 #include "support/LogRecorder.h"
@@ -10,6 +11,8 @@
 #include <QPainter>
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace tavrik {
 namespace {
@@ -71,6 +74,52 @@ TEST_F(IconManagerTest, LooksIntoIOSApplicationsAndFallsBackToTheWorkspace) {
     write("Wrapper/Inner.app/Atlas.icns", iconFile(Qt::red));
     ignoreFailure(small.files.createLink(bundle / "WrappedBundle", "Wrapper/Inner.app"));
     EXPECT_EQ(colour(), QColor(Qt::red));
+}
+
+TEST_F(IconManagerTest, ReadsTheSmallestSizeThatIsEnough) {
+    std::string content;
+    const auto append = [&](std::string_view type, ByteView data) {
+        content += type;
+        for (const int shift : {24, 16, 8, 0})
+            content += static_cast<char>((data.size() + 8) >> shift);
+        content += textOf(data);
+    };
+    append("ic09", *png::encode(plain(512, 512, Qt::green)));
+    append("ic07", *png::encode(plain(128, 128, Qt::red)));
+    append("ic08", bytesOf("\xFF\x4F\xFF\x51")); // JPEG 2000
+    append("ic13", *png::encode(plain(256, 256, Qt::blue)));
+    append("ic14", *png::encode(plain(512, 512, Qt::yellow)));
+    const std::string elements = std::exchange(content, {});
+    append("icns", bytesOf(elements));
+    write("Contents/Resources/icon.icns", bytesOf(content));
+
+    using Case = std::pair<int, Qt::GlobalColor>;
+    for (const auto& [atLeast, expected] : {Case{128, Qt::red}, Case{129, Qt::blue}, Case{2000, Qt::green}})
+        EXPECT_EQ(icons.appIcon(bundle, atLeast).pixelColor(0, 0), QColor(expected)) << atLeast;
+}
+
+TEST_F(IconManagerTest, RecognisesAnIconByItsFileOrElseByItsBitmap) {
+    const auto data = [&] {
+        const auto found = icons.appIconData(bundle, 100);
+        return std::pair(found.byteCount, found.beginning);
+    };
+    ASSERT_TRUE(small.files.createFolder(bundle));
+    QImage icon = plain(512, 512, Qt::transparent);
+    EXPECT_TRUE(small.mac.workspace.setIcon(bundle, icon));
+    const auto empty = data();
+    QPainter(&icon).fillRect(100, 100, 300, 300, Qt::red);
+    EXPECT_TRUE(small.mac.workspace.setIcon(bundle, icon));
+    EXPECT_NE(data(), empty) << "though they begin alike";
+
+    const Bytes file = iconFile(Qt::red);
+    write("Contents/Resources/Icon.icns", file);
+    for (const ByteView damaged : {ByteView(file).first(500), bytesOf("icns"), bytesOf("no picture")}) {
+        write("Contents/Resources/icon.icns", damaged);
+        EXPECT_EQ(data(), std::pair(file.size(), Bytes(file.begin(), file.begin() + 100)));
+    }
+    const Bytes picture = *png::encode(plain(2, 2, Qt::blue));
+    write("Contents/Resources/icon.icns", picture);
+    EXPECT_EQ(data(), std::pair(picture.size(), picture)) << "a plain picture under that name";
 }
 
 TEST_F(IconManagerTest, TriesACustomIconThreeTimes) {
