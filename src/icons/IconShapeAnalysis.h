@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace tavrik {
@@ -41,9 +42,16 @@ public:
     bool isAnalysing() const { return m_runs > 0; }
 
 private:
+    struct Answer;
+    /// On the analysis queue; one for each application, without an answer for those that a stop left out.
+    std::vector<Answer> look(const std::vector<MacPath>& apps, const std::function<void(double)>& progressed);
+    Answer look(const MacPath& app) const;
+    void remember(const std::vector<Answer>& answers);
+
     const IconManager& m_icons;
     SettingsManager& m_settings;
     std::map<MacPath, bool> m_known;
+    std::map<std::string, bool> m_found; ///< by key, whether the settings took it or not; the queue's
     int m_runs = 0;
     std::atomic<bool> m_isStopping = false;
     QObject m_mainThread;
