@@ -1,0 +1,77 @@
+#include "ui/models/IconProvider.h"
+
+#include "icons/IconCache.h"
+#include "platform/Path.h"
+#include "system/IconManager.h"
+
+#include <QPointer>
+#include <QQuickImageResponse>
+#include <QQuickTextureFactory>
+
+#include <algorithm>
+
+namespace tavrik {
+
+namespace {
+
+constexpr int kDefaultSide = 128; ///< pixels
+
+/// A request under way. The engine deletes it, at any time after it has finished.
+class Response : public QQuickImageResponse {
+public:
+    void finish(const QImage& picture) {
+        m_picture = picture;
+        Q_EMIT finished();
+    }
+
+    QQuickTextureFactory* textureFactory() const override {
+        return QQuickTextureFactory::textureFactoryForImage(m_picture);
+    }
+
+    QString errorString() const override {
+        return m_picture.isNull() ? QStringLiteral("the picture cannot be read") : QString();
+    }
+
+private:
+    QImage m_picture;
+};
+
+QImage fitted(const QImage& picture, int side) {
+    return picture.isNull() || std::max(picture.width(), picture.height()) <= side
+               ? picture
+               : picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+IconProvider::IconProvider(IconCache& cache, const IconManager& icons) : m_cache(cache), m_icons(icons) {}
+
+QQuickImageResponse* IconProvider::requestImageResponse(const QString& id, const QSize& requestedSize) {
+    const int asked = std::max(requestedSize.width(), requestedSize.height());
+    const int side = asked > 0 ? asked : kDefaultSide;
+    auto* const response = new Response;
+    // It lives until it has finished, whether or not anybody still waits for it.
+    m_queue.async([this, id, side, response] { response->finish(picture(id, side)); });
+    return response;
+}
+
+QImage IconProvider::picture(const QString& id, int side) {
+    const QString key = id + QLatin1Char('@') + QString::number(side);
+    {
+        const std::lock_guard lock(m_lock);
+        if (const QImage* known = m_pictures.object(key))
+            return *known;
+    }
+    const QStringList parts = id.split(QLatin1Char('/'));
+    if (parts.size() != 3)
+        return {};
+    const MacPath path(
+        QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString());
+    const QImage scaled =
+        fitted(parts[0] == QLatin1String("app") ? m_icons.appIcon(path, side) : m_cache.loadImage(path), side);
+    const std::lock_guard lock(m_lock);
+    m_pictures.insert(key, new QImage(scaled), std::max<qsizetype>(1, scaled.sizeInBytes() >> 10));
+    return scaled;
+}
+
+} // namespace tavrik

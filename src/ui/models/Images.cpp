@@ -1,0 +1,34 @@
+#include "ui/models/Images.h"
+
+#include <QUrl>
+
+namespace tavrik {
+
+namespace {
+
+/// Paths hold any character, and addresses few.
+QString address(const char* kind, const QString& path, int revision) {
+    if (path.isEmpty())
+        return {};
+    return QStringLiteral("image://icon/%1/%2/%3")
+        .arg(QLatin1String(kind))
+        .arg(revision)
+        .arg(QString::fromLatin1(path.toUtf8().toBase64(QByteArray::Base64UrlEncoding)));
+}
+
+} // namespace
+
+void Images::raiseRevision() {
+    ++m_revision;
+    Q_EMIT revisionChanged();
+}
+
+QString Images::ofFile(const QString& path, int revision) const {
+    return address("file", path, revision);
+}
+
+QString Images::ofApp(const QString& path, int revision) const {
+    return address("app", path, revision);
+}
+
+} // namespace tavrik

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Path.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace tavrik {
+
+/// Where the views find pictures: addresses for the image providers. Main thread.
+class Images : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    /// Raised when icon files have changed under their names; part of every address, so that views that bind to
+    /// it load anew.
+    Q_PROPERTY(int revision READ revision NOTIFY revisionChanged)
+
+public:
+    int revision() const { return m_revision; }
+
+    void raiseRevision();
+
+    /// Of an icon file, a path of the Mac: of the store, or of a theme.
+    Q_INVOKABLE QString ofFile(const QString& path, int revision) const;
+    /// The own icon of the application at this path of the Mac.
+    Q_INVOKABLE QString ofApp(const QString& path, int revision) const;
+
+Q_SIGNALS:
+    void revisionChanged();
+
+private:
+    int m_revision = 0;
+};
+
+} // namespace tavrik

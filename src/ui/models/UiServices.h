@@ -1,0 +1,24 @@
+#pragma once
+
+namespace tavrik {
+
+class AppDelegate;
+class Background;
+class Images;
+class MacHost;
+class Notices;
+class SharedCoordinators;
+struct Managers;
+
+/// What the window's models work with.
+struct UiServices {
+    MacHost& host;
+    Managers& managers;
+    SharedCoordinators& coordinators;
+    AppDelegate& delegate;
+    Background& background;
+    Images& images;
+    Notices& notices;
+};
+
+} // namespace tavrik

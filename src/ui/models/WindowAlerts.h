@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/Alerts.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <vector>
+
+namespace tavrik {
+
+/// Asks by a sheet on the window. A question that comes while another is shown goes first; the other waits.
+///
+/// `ask` may be called on any thread and waits there; on the main thread the window goes on living meanwhile.
+/// When the application ends, every question is answered as its last button would, which never does harm.
+class WindowAlerts : public QObject, public Alerts {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString text READ text NOTIFY changed)
+    Q_PROPERTY(QStringList buttons READ buttons NOTIFY changed)
+    Q_PROPERTY(bool isWarning READ isWarning NOTIFY changed)
+
+public:
+    std::size_t ask(const Alert& alert) override;
+
+    bool isShown() const { return !m_questions.empty(); }
+
+    QString title() const;
+    QString text() const;
+    QStringList buttons() const; ///< the default one first
+    bool isWarning() const;
+
+    /// A button of the question that is shown was pressed.
+    Q_INVOKABLE void answer(int button);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    struct Question;
+
+    std::size_t askOnMain(const Alert& alert);
+
+    std::vector<Question*> m_questions; ///< the last one is shown
+};
+
+} // namespace tavrik

@@ -1,0 +1,65 @@
+import QtQuick
+import QtQuick.Controls.Basic as C
+import Tavrik
+
+C.ApplicationWindow {
+    id: window
+
+    required property WindowModel model
+
+    width: 1120
+    height: 740
+    minimumWidth: 860
+    minimumHeight: 560
+    visible: true
+    title: qsTr("Tavrik")
+    color: Style.window
+    font.pixelSize: Style.bodyText
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Binding {
+        target: Style
+        property: "dark"
+        value: window.model.isDark
+    }
+
+    Sidebar {
+        id: sidebar
+
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: Style.sidebarWidth
+        model: window.model
+        enabled: !window.model.isBlocked
+    }
+    Toolbar {
+        id: toolbar
+
+        anchors.left: sidebar.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        model: window.model
+        enabled: !window.model.isBlocked
+    }
+    ContentArea {
+        anchors.left: sidebar.right
+        anchors.right: parent.right
+        anchors.top: toolbar.bottom
+        anchors.bottom: parent.bottom
+        model: window.model
+        enabled: !window.model.isBlocked
+    }
+    NoticeBar {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.horizontalCenterOffset: Style.sidebarWidth / 2
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Style.margin
+        notices: window.model.notices
+    }
+
+    ApplySheet { model: window.model }
+    ProgressSheet { model: window.model }
+    AlertSheet { alerts: window.model.alerts }
+}

@@ -1,0 +1,8 @@
+import QtQuick
+import Tavrik
+
+Sheet {
+    required property WindowModel model
+
+    name: qsTr("Apply")
+}

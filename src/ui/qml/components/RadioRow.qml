@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavrik
+
+T.RadioButton {
+    id: row
+
+    implicitWidth: indicator.width + Style.gap + label.implicitWidth
+    implicitHeight: 24
+    opacity: enabled ? 1 : 0.45
+    focusPolicy: Qt.StrongFocus
+    Accessible.name: text
+
+    indicator: Rectangle {
+        x: row.mirrored ? row.width - width : 0
+        y: (row.height - height) / 2
+        width: 16
+        height: 16
+        radius: 8
+        color: row.checked ? Style.accent : Style.raised
+        border.color: row.visualFocus ? Style.accent : row.checked ? "transparent" : Style.border
+        border.width: row.visualFocus ? 2 : 1
+
+        Rectangle {
+            anchors.centerIn: parent
+            visible: row.checked
+            width: 6
+            height: 6
+            radius: 3
+            color: Style.onAccent
+        }
+    }
+    contentItem: Label {
+        id: label
+
+        leftPadding: row.mirrored ? 0 : row.indicator.width + Style.gap
+        rightPadding: row.mirrored ? row.indicator.width + Style.gap : 0
+        text: row.text
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,61 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavrik
+
+// One of a few: [{ text, value }].
+Rectangle {
+    id: control
+
+    required property string name
+    property var segments: []
+    property var value
+    signal chosen(var value)
+
+    implicitWidth: row.implicitWidth + 4
+    implicitHeight: Style.controlHeight
+    radius: 7
+    color: Style.dark ? "#3a3a3f" : "#e4e4e8"
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: name
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+
+        Repeater {
+            model: control.segments
+
+            T.Button {
+                id: segment
+
+                required property var modelData
+                readonly property bool isChosen: control.value === modelData.value
+
+                implicitWidth: Math.max(56, title.implicitWidth + 24)
+                implicitHeight: control.height - 4
+                focusPolicy: Qt.StrongFocus
+                Accessible.role: Accessible.PageTab
+                Accessible.name: modelData.text
+                Accessible.checked: isChosen
+                onClicked: control.chosen(modelData.value)
+
+                contentItem: Label {
+                    id: title
+
+                    text: segment.modelData.text
+                    horizontalAlignment: Text.AlignHCenter
+                    font.weight: segment.isChosen ? Font.Medium : Font.Normal
+                    Accessible.ignored: true
+                }
+                background: Rectangle {
+                    radius: 5
+                    color: segment.isChosen ? (Style.dark ? "#6a6a70" : "#ffffff") : segment.down ? Style.pressed : "transparent"
+                    border.width: segment.visualFocus ? 2 : 0
+                    border.color: Style.accent
+                }
+                Keys.onReturnPressed: clicked()
+            }
+        }
+    }
+}

@@ -1,0 +1,9 @@
+import QtQuick
+import Tavrik
+
+Rectangle {
+    implicitHeight: 1
+    implicitWidth: 1
+    color: Style.line
+    Accessible.ignored: true
+}

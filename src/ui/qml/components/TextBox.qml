@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavrik
+
+T.TextField {
+    id: box
+
+    required property string name
+
+    implicitWidth: 200
+    implicitHeight: Style.controlHeight
+    leftPadding: 8
+    rightPadding: 8
+    color: Style.text
+    placeholderTextColor: Style.faint
+    selectionColor: Style.accent
+    selectedTextColor: Style.onAccent
+    font.pixelSize: Style.bodyText
+    verticalAlignment: TextInput.AlignVCenter
+    selectByMouse: true
+    Accessible.name: name
+    Accessible.role: Accessible.EditableText
+
+    Label {
+        x: box.leftPadding
+        width: box.width - box.leftPadding - box.rightPadding
+        height: box.height
+        visible: !box.text && !box.preeditText
+        text: box.placeholderText
+        color: Style.faint
+        Accessible.ignored: true
+    }
+
+    background: Rectangle {
+        radius: 6
+        color: Style.content
+        border.color: box.activeFocus ? Style.accent : Style.border
+        border.width: box.activeFocus ? 2 : 1
+    }
+}

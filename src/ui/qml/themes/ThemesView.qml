@@ -1,0 +1,6 @@
+import QtQuick
+import Tavrik
+
+Item {
+    required property WindowModel model
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QQuickWindow;
+
+namespace tavrik {
+
+class Program;
+
+/// A view worth a picture: what brings it up, and the window that shows it. Scenes follow each other in one
+/// run of the program, so each leaves it as the next one may find it.
+struct Scene {
+    QString name; ///< of the picture's file
+    std::function<QQuickWindow*(Program&)> show;
+};
+
+std::vector<Scene> applicationsScenes();
+std::vector<Scene> themesScenes();
+std::vector<Scene> fontsScenes();
+std::vector<Scene> previewScenes();
+std::vector<Scene> applyScenes();
+std::vector<Scene> settingsScenes();
+
+} // namespace tavrik

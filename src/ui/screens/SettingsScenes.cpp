@@ -1,0 +1,10 @@
+#include "ui/Program.h"
+#include "ui/screens/Scene.h"
+
+namespace tavrik {
+
+std::vector<Scene> settingsScenes() {
+    return {};
+}
+
+} // namespace tavrik

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QString>
+
+#include <functional>
+
+class QQuickItem;
+class QQuickWindow;
+
+namespace tavrik {
+
+/// Acts on the windows as a person does, for pictures and tests: finds items by their `objectName`, clicks,
+/// types, waits. Main thread.
+class Stagehand {
+public:
+    /// The first visible item of this name in any window, popups included; null when there is none.
+    static QQuickItem* find(const QString& name);
+
+    /// Clicks into the middle of an item. False when there is none, or it is disabled.
+    static bool click(const QString& name);
+    static bool click(QQuickItem* item);
+
+    static void type(QQuickWindow* window, const QString& text);
+    static void press(QQuickWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// Lets the window live until this holds. False after so many milliseconds.
+    static bool waitFor(const std::function<bool()>& holds, int limit = 10'000);
+
+    /// Waits until the window looks the same twice: pictures are loaded, nothing moves any more.
+    static QImage settled(QQuickWindow* window);
+};
+
+} // namespace tavrik

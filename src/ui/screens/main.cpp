@@ -1,0 +1,87 @@
+#include "app/PracticeHost.h"
+#include "platform/Threads.h"
+#include "ui/Program.h"
+#include "ui/models/WindowAlerts.h"
+#include "ui/screens/Scene.h"
+#include "ui/screens/Stagehand.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+using namespace tavrik;
+
+QPalette darkPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(30, 30, 32));
+    palette.setColor(QPalette::WindowText, Qt::white);
+    return palette;
+}
+
+bool save(const QImage& picture, const QString& file) {
+    if (picture.save(file))
+        return true;
+    std::fprintf(stderr, "%s cannot be written.\n", qUtf8Printable(file));
+    return false;
+}
+
+/// Every scene whose name begins with `wanted`.
+bool draw(Program& program, const QString& folder, const QString& wanted) {
+    for (const auto& scenes : {applicationsScenes(), themesScenes(), fontsScenes(), previewScenes(),
+                               applyScenes(), settingsScenes()}) {
+        for (const Scene& scene : scenes) {
+            if (!scene.name.startsWith(wanted))
+                continue;
+            QQuickWindow* const window = scene.show(program);
+            for (const bool isDark : {false, true}) {
+                QGuiApplication::setPalette(isDark ? darkPalette() : QPalette());
+                const QString suffix = isDark ? QStringLiteral("-dark") : QString();
+                if (!save(Stagehand::settled(window),
+                          QStringLiteral("%1/%2%3.png").arg(folder, scene.name, suffix)))
+                    return false;
+            }
+            QGuiApplication::setPalette(QPalette());
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+/// Leaves a picture of each view, light and dark, in a folder: tavrik-screens FOLDER [BEGINNING-OF-NAME]. Works
+/// on a practice Mac of its own. Twice the size with QT_SCALE_FACTOR=2.
+int main(int argc, char** argv) {
+    if (argc < 2) {
+        std::fprintf(stderr, "Usage: tavrik-screens FOLDER [BEGINNING-OF-NAME]\n");
+        return 2;
+    }
+    declareMainThread();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication application(argc, argv);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(folder);
+
+    const QTemporaryDir place;
+    WindowAlerts alerts;
+    const auto host = openPracticeMac(HostPath(place.filePath(QStringLiteral("Mac")).toStdString()), alerts);
+    if (!host) {
+        std::fprintf(stderr, "%s\n", host.error().description.c_str());
+        return 1;
+    }
+    const auto program = Program::open(**host, alerts);
+    if (!program) {
+        std::fprintf(stderr, "%s\n", program.error().description.c_str());
+        return 1;
+    }
+    (*program)->start();
+    return draw(**program, folder, argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString()) ? 0 : 1;
+}

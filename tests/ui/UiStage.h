@@ -1,0 +1,94 @@
+#pragma once
+
+#include "app/MacHost.h"
+#include "platform/Threads.h"
+#include "support/LogRecorder.h"
+#include "support/practice/VirtualMac.h"
+#include "ui/Program.h"
+#include "ui/models/WindowAlerts.h"
+#include "ui/screens/Stagehand.h"
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tavrik::test {
+
+/// The whole program with its window on a furnished Mac in virtual time. Whatever Qt Quick has to complain of
+/// fails the test.
+class UiStage : public testing::Test, protected VirtualMac, protected Stagehand {
+protected:
+    UiStage() {
+        declareMainThread();
+        complaints().clear();
+        m_before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+            if (type != QtDebugMsg && type != QtInfoMsg)
+                complaints().append(text);
+        });
+    }
+
+    ~UiStage() override {
+        program.reset();
+        qInstallMessageHandler(m_before);
+        EXPECT_EQ(complaints().join(QLatin1Char('\n')).toStdString(), "");
+    }
+
+    /// Opens the window, anew when it was open, and waits for the lists.
+    void start() {
+        program.reset();
+        auto opened = Program::open(host, alerts);
+        ASSERT_TRUE(opened) << opened.error().description;
+        program = std::move(*opened);
+        program->start();
+        ASSERT_TRUE(waitFor([&] { return !program->delegate().isStarting(); }));
+    }
+
+    WindowModel& model() { return program->model(); }
+
+    QQuickWindow* window() { return program->mainWindow(); }
+
+private:
+    static QStringList& complaints() {
+        static QStringList list;
+        return list;
+    }
+
+    struct Host : MacHost {
+        explicit Host(Mac& of) : m_mac(of) {}
+
+        Mac& mac() override { return m_mac; }
+
+        void startSession() override {}
+
+        Mac& m_mac;
+    };
+
+    struct Software {
+        Software() {
+            QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+            QQuickStyle::setStyle(QStringLiteral("Basic"));
+        }
+    };
+
+    Software m_software;
+    int m_argumentCount = 0;
+    QGuiApplication m_application{m_argumentCount, nullptr};
+    QtMessageHandler m_before = nullptr;
+
+protected:
+    LogRecorder log;
+    WindowAlerts alerts;
+    Mac whole{mac.volume,   mac.files,   mac.bookmarks, mac.workspace, mac.tools, mac.notifications,
+              mac.defaults, mac.machine, clock,         alerts,        mac.random};
+    Host host{whole};
+    std::unique_ptr<Program> program;
+};
+
+} // namespace tavrik::test
