@@ -92,6 +92,9 @@ public:
 
     Bytes cleanLaunchpadDatabase(Bytes database) { return m_launchpadCleaning.clean(std::move(database)); }
 
+    /// Cleans a copy in memory, to be looked at. False on any fault, the copy as it was.
+    [[nodiscard]] bool cleanInPlace(sqlite::Connection& copy) { return m_launchpadCleaning.cleanInPlace(copy); }
+
     Bytes cleanDockPlist(Bytes dockPlist) { return m_dockCleaning.clean(std::move(dockPlist)); }
 
     std::optional<BackupKey> deriveBackupKey() const;

@@ -179,6 +179,18 @@ std::optional<std::int64_t> SettingsManager::getSelectedIcon(const std::string& 
     return index ? std::optional(*index) : std::nullopt;
 }
 
+std::map<std::string, std::int64_t> SettingsManager::getAllSelectedIcons() {
+    std::map<std::string, std::int64_t> indices;
+    const auto root = m_store.snapshot();
+    if (const auto* values = dictionaryAt(*root, kSelectedIcons)) {
+        for (const auto& [bundleID, value] : *values) {
+            if (const auto* index = value.as<std::int64_t>())
+                indices.emplace_hint(indices.end(), bundleID, *index);
+        }
+    }
+    return indices;
+}
+
 // The styled font
 
 void SettingsManager::setCurrentFontState(const std::optional<FontState>& state) {
@@ -381,6 +393,15 @@ std::map<std::string, SwapRecord> SettingsManager::getAllSwapRecords() {
 
 void SettingsManager::removeSwapRecord(const std::string& bundleID) {
     removeEntry(bundleID, kSwapRecords);
+}
+
+void SettingsManager::forgetSwap(const std::string& bundleID) {
+    m_store.change([&](plist::Dictionary& root) {
+        for (const char* key : {kMappings, kSwapRecords, kHiddenFlagApps}) {
+            if (dictionaryAt(root, key))
+                ensureDictionaryAt(root, key).erase(bundleID);
+        }
+    });
 }
 
 // All that speaks of the stores that a restore replaced

@@ -69,6 +69,7 @@ public:
     /// Of several applications, in one write.
     void setSelectedIcons(const std::map<std::string, std::optional<std::int64_t>>& indices);
     std::optional<std::int64_t> getSelectedIcon(const std::string& bundleID);
+    std::map<std::string, std::int64_t> getAllSelectedIcons();
 
     /// `appliedDate` is set to now. Nothing removes the key. For when the titles show this style already: a
     /// change of style that was under way is forgotten.
@@ -122,6 +123,10 @@ public:
     std::optional<SwapRecord> getSwapRecord(const std::string& bundleID);
     std::map<std::string, SwapRecord> getAllSwapRecords();
     void removeSwapRecord(const std::string& bundleID);
+
+    /// Of an application that is gone: forgets its mapping, the record of its swap and that of its hidden row,
+    /// in one write.
+    void forgetSwap(const std::string& bundleID);
 
     /// After a backup's files took the place of the live ones: forgets, in one write, every mapping, selected
     /// icon and hidden-flag application, the style with its unfinished change, the records of swaps, and the

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,13 @@ struct Alert {
     std::string text;
     std::vector<std::string> buttons;
     AlertStyle style = AlertStyle::warning;
+    /// The button to take where nobody can be asked or no answer comes: one that loses nothing. The last one,
+    /// unless this says another.
+    std::optional<std::size_t> unanswered{};
+
+    std::size_t buttonWithoutAnswer() const {
+        return unanswered.value_or(buttons.empty() ? 0 : buttons.size() - 1);
+    }
 };
 
 /// Asks the person. The window, the terminal and the tests each answer in their own way.

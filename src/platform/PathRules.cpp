@@ -29,6 +29,10 @@ bool isWrapperPath(const MacPath& path) {
     return path.string().find("/Applications/Tavrik/") != std::string::npos;
 }
 
+bool isTrashPath(const MacPath& path) {
+    return path.string().find("/.Trash/") != std::string::npos;
+}
+
 bool isPendingIconPath(const MacPath& path) {
     return path.string().find("/PendingChanges/Icons/") != std::string::npos;
 }

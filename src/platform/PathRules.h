@@ -10,6 +10,9 @@ MacPath wrapperFolder(const MacPath& home);
 /// A path is a wrapper's when it contains "/Applications/Tavrik/".
 bool isWrapperPath(const MacPath& path);
 
+/// A path leads into the Trash when it contains "/.Trash/".
+bool isTrashPath(const MacPath& path);
+
 /// A path is a pending icon's when it contains "/PendingChanges/Icons/".
 bool isPendingIconPath(const MacPath& path);
 
