@@ -7,9 +7,11 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <functional>
 #include <set>
 #include <string_view>
+#include <vector>
 
 namespace tavrik {
 
@@ -38,13 +40,15 @@ public:
 
     bool isStarting() const { return m_isStarting; }
 
-    /// Whether the application may end. Asks when something is staged.
+    /// Whether the application may end. Asks when something is staged. Not now, without a question, while
+    /// something runs in the background: the application then ends by itself when that is over.
     bool applicationShouldTerminate();
 
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
 
     void applicationWillTerminate();
 
+    /// The same for the main window: closing it ends the application.
     bool windowShouldClose(ManagedWindow& window);
     void windowWillClose(ManagedWindow& window);
     void windowDidBecomeMain(ManagedWindow& window);
@@ -57,6 +61,8 @@ public:
     /// Drops what is staged and tells the lists. Not while an apply runs.
     void discardChanges();
 
+    /// While a long operation owns the interface nothing but quitting; otherwise everything, the apply when
+    /// something is staged.
     bool validateMenuItem(MenuAction action) const;
 
     bool isBlocked() const { return m_isBlocked; }
@@ -68,7 +74,15 @@ public:
     void setStateObserver(std::function<void()> observer) { m_stateChanged = std::move(observer); }
 
 private:
+    void runMaintenance();
+    void browseBackups();
     void blockingStateChanged();
+    void stateChanged();
+    bool isAbandoned();
+    bool mustWait();
+    void closeManagedWindows();
+    void inBackground(std::function<void()> work);
+    void workEnded();
 
     Managers& m_managers;
     SharedCoordinators& m_coordinators;
@@ -79,6 +93,9 @@ private:
     bool m_isShowingCloseWarning = false;
     bool m_isStarting = false;
     bool m_isBlocked = false;
+    bool m_isApplying = false; ///< from the call to the result, the overlay comes and goes within
+    int m_works = 0;           ///< in the background, running or waiting
+    std::atomic<bool> m_endsWhenIdle = false; ///< the person wants the program to end
     std::function<void(const ApplyResult&)> m_applied;
     std::function<void()> m_stateChanged;
     std::vector<NotificationCenter::Observation> m_observations;
