@@ -1,10 +1,12 @@
 #include "cli/Companion.h"
 
 #include "app/PracticeHost.h"
+#include "app/VersionGate.h"
 #include "cli/AppLookup.h"
 #include "model/catalogue/Refusal.h"
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
+#include "platform/Machine.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -28,6 +30,10 @@ ExitCode Companion::open(Access access) {
     if (!host)
         return fail(host.error().description);
     m_host = std::move(*host);
+    if (const SystemVersion version = m_host->mac().machine.systemVersion();
+        access == Access::writing && !isSupported(version))
+        return refuse("Tavrik does not know macOS " + textOf(version) +
+                      " and changes nothing on it. macOS 15 and earlier are supported.");
     if (access != Access::looking) {
         if (const ExitCode locked = takeLock(access); locked != ExitCode::done)
             return locked;

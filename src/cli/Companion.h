@@ -36,8 +36,8 @@ public:
     const HostPath& practiceRoot() const { return m_practiceRoot; }
 
     /// Opens the Mac and builds the managers. Anything but `done` is the code to end with, and its sentence is
-    /// printed: `refused` when the command is to write and another Tavrik does. The right to write is kept to
-    /// the companion's end. To be called before the next three.
+    /// printed: `refused` when the command is to write and another Tavrik does, or the system is too new. The
+    /// right to write is kept to the companion's end. To be called before the next three.
     [[nodiscard]] ExitCode open(Access access);
 
     Managers& managers() { return *m_managers; }

@@ -1,6 +1,7 @@
 #include "cli/TerminalAlerts.h"
 
 #include "cli/TerminalLog.h"
+#include "platform/Log.h"
 
 #include <unistd.h>
 
@@ -19,21 +20,25 @@ bool isTerminal() {
 } // namespace
 
 std::size_t TerminalAlerts::ask(const Alert& alert) {
-    const std::size_t last = alert.buttons.empty() ? 0 : alert.buttons.size() - 1;
     if (m_pressesFirst)
         return 0;
-    if (!isTerminal())
-        return last;
+    const std::size_t unanswered = alert.buttonWithoutAnswer();
+    if (!isTerminal()) {
+        log("Nobody can be asked \"" + alert.title + "\"" +
+            (alert.buttons.empty() ? "" : "; taken for the answer: " + alert.buttons[unanswered]));
+        return unanswered;
+    }
     std::cout << eraseLine() << '\n' << alert.title << '\n' << alert.text << '\n';
-    for (std::size_t i = 0; i <= last && i < alert.buttons.size(); ++i)
+    for (std::size_t i = 0; i < alert.buttons.size(); ++i)
         std::cout << "  " << i + 1 << "  " << alert.buttons[i] << '\n';
     for (std::string line; std::cout << "Type a number: " << std::flush && std::getline(std::cin, line);) {
         std::size_t number = 0;
         const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
-        if (error == std::errc() && end == line.data() + line.size() && number >= 1 && number <= last + 1)
+        if (error == std::errc() && end == line.data() + line.size() && number >= 1 &&
+            number <= alert.buttons.size())
             return number - 1;
     }
-    return last;
+    return unanswered;
 }
 
 } // namespace tavrik

@@ -5,8 +5,8 @@
 namespace tavrik {
 
 /// Asks at the terminal: prints the question with its buttons numbered and waits for a number. Without a
-/// terminal on standard input and output nobody can be asked, and the answer is the last button, which never
-/// does anything.
+/// terminal on standard input and output nobody can be asked: the answer is then the question's own for that
+/// case, and a log line says so.
 class TerminalAlerts : public Alerts {
 public:
     std::size_t ask(const Alert& alert) override;
