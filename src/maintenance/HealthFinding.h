@@ -10,6 +10,7 @@ struct HealthFinding {
         launchpadDatabase,  ///< missing, damaged, or of an unknown form
         dockPreferences,    ///< missing or unreadable
         settings,           ///< unreadable
+        stagedChanges,      ///< the file of what is staged cannot be read
         triggerKey,         ///< the database's triggers are switched off
         wrapperMissing,     ///< swapped in, and gone from the disk
         wrapperLinks,       ///< lead nowhere, or not to the application: it was moved, or its bundle changed
@@ -35,8 +36,9 @@ struct HealthFinding {
     };
 
     enum class Remedy {
-        none,   ///< nothing needs to be done, or nothing can be done from here: the sentence says which
-        repair, ///< the repair mends it
+        notNeeded, ///< nothing is wrong, but it is worth knowing
+        none,      ///< nothing can be done from here: the advice says what the person can do
+        repair,    ///< the repair mends it
     };
 
     Kind kind{};
@@ -48,7 +50,8 @@ struct HealthFinding {
     bool operator==(const HealthFinding&) const = default;
 };
 
-/// The kind in a word, as above.
+/// In a word, as above.
 std::string nameOf(HealthFinding::Kind kind);
+std::string nameOf(HealthFinding::Remedy remedy);
 
 } // namespace tavrik
