@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QJsonArray>
+
+#include <string>
+#include <vector>
+
+namespace tavrik {
+
+struct HealthFinding;
+struct HealthRepair;
+
+/// What the findings of its kind stand below: "Restyled applications".
+std::string headingOf(const HealthFinding& finding);
+
+/// By their field names.
+QJsonArray toJson(const std::vector<HealthFinding>& findings);
+/// With an "outcome" where the repair was tried: "isMended" and its sentence.
+QJsonArray toJson(const std::vector<HealthFinding>& findings, const HealthRepair& repair);
+
+} // namespace tavrik
