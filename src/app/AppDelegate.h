@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ApplicationFace.h"
+#include "changes/ReloadNotifications.h"
 #include "changes/apply/ApplyPipeline.h"
 #include "platform/NotificationCenter.h"
 #include "platform/SerialQueue.h"
@@ -17,9 +18,6 @@ namespace tavrik {
 
 class SharedCoordinators;
 struct Managers;
-
-/// Posted when what was staged has been discarded.
-inline constexpr std::string_view kReloadApplicationsAfterDiscard = "ReloadApplicationsAfterDiscard";
 
 /// User default: the settings window is to show the backups when it opens next, and takes the flag back.
 inline constexpr std::string_view kOpenBackupExplorer = "OpenBackupExplorer";

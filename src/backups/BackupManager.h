@@ -9,6 +9,7 @@
 #include "backups/DockCleaning.h"
 #include "backups/LaunchpadCleaning.h"
 #include "backups/LiveStores.h"
+#include "changes/ReloadNotifications.h"
 #include "platform/Bytes.h"
 #include "platform/Date.h"
 #include "platform/Path.h"
@@ -31,10 +32,6 @@ class NotificationCenter;
 class PendingChangesManager;
 class SettingsManager;
 struct Mac;
-
-/// Posted after a restore.
-inline constexpr std::string_view kReloadApplicationsAfterBackupRestore =
-    "ReloadApplicationsAfterBackupRestore";
 
 /// A row of the list of backups.
 struct BackupListItem {

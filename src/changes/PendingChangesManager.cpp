@@ -180,7 +180,7 @@ bool PendingChangesManager::removeIcon(const std::string& bundleID, int displayI
         --selected;
     const bool saved = stageRow(bundleID, row.pendingAdditionPaths, row.hiddenPermanentIndices, selected);
     // While the file on disk still names the icon, a recovery would miss it.
-    if (isPending && saved)
+    if (isPending && saved && !m_keepsRemovedIcons)
         m_store.deletePendingIcon(icon);
     return true;
 }

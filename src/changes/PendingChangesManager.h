@@ -107,6 +107,18 @@ public:
     void updatePendingState(const std::string& bundleID, const std::vector<MacPath>& pendingPaths,
                             const std::set<int>& hiddenIndices, std::optional<int> selectedIndex);
 
+    /// Puts other changes in the place of all that are staged: an earlier state of these. What they name and is
+    /// not there any more is left out, each with a log line. False, with nothing changed, when the disk does
+    /// not tell what is there. Interrupted applies stay noted.
+    bool restage(const StagedChanges& changes);
+
+    /// From now on removed icons that were not applied yet stay on disk, so that `restage` can bring them back.
+    /// Nothing names them, and `dropIcons` or the next `recover` deletes them.
+    void keepRemovedIcons() { m_keepsRemovedIcons = true; }
+
+    /// Deletes those of these pending icons that nothing staged names.
+    void dropIcons(const std::set<MacPath>& icons);
+
     /// Writes what is staged to the recovery file, or removes the file when nothing is. Every operation above
     /// does it; an apply does it again and must not begin unless it is true.
     bool savePendingChangesToTempFile();
@@ -150,6 +162,7 @@ private:
     void clear(PendingIcons icons);
     Result<bool> followTransfer(const std::string& bundleID, const std::vector<MacPath>& shown,
                                 IconChange& change);
+    Status recoverRows(StagedChanges& recovered) const;
     Status recoverRow(const std::string& bundleID, StagedChanges& recovered) const;
     void sweep();
     bool isPendingIconOf(const MacPath& path, const std::string& bundleID) const;
@@ -163,6 +176,7 @@ private:
     NotificationCenter& m_notifications;
 
     bool m_hasPendingChanges = false;
+    bool m_keepsRemovedIcons = false;
     bool m_isInitializing = true; ///< nothing is saved while it is set
     StagedChanges m_staged;
     std::optional<std::string> m_activeFont;

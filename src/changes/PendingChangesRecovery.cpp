@@ -6,6 +6,7 @@
 #include "model/SettingsManager.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
+#include "platform/PathRules.h"
 #include "platform/PlainFolders.h"
 #include "platform/Threads.h"
 
@@ -99,15 +100,8 @@ bool PendingChangesManager::recover() {
         isComplete = isComplete && *found;
     }
 
-    std::set<std::string> bundleIDs;
-    for (const auto& [bundleID, change] : recovered.pendingChanges)
-        bundleIDs.insert(bundleID);
-    for (const auto& [bundleID, marked] : recovered.markedForDeletion)
-        bundleIDs.insert(bundleID);
-    for (const std::string& bundleID : bundleIDs) {
-        if (const Status checked = recoverRow(bundleID, recovered); !checked)
-            return failed(checked.error());
-    }
+    if (const Status checked = recoverRows(recovered); !checked)
+        return failed(checked.error());
 
     m_staged = std::move(recovered);
     m_recoveryFailed = false;
@@ -117,6 +111,32 @@ bool PendingChangesManager::recover() {
     if (saved && isComplete)
         sweep();
     return true;
+}
+
+bool PendingChangesManager::restage(const StagedChanges& changes) {
+    assertOnMainThread("Restaging changes");
+    StagedChanges restaged = changes;
+    restaged.unfinished = m_staged.unfinished;
+    if (const Status checked = recoverRows(restaged); !checked) {
+        log("⚠️ Could not restage the changes: " + checked.error().description);
+        return false;
+    }
+    m_staged = std::move(restaged);
+    updatePendingChangesState();
+    return true;
+}
+
+Status PendingChangesManager::recoverRows(StagedChanges& recovered) const {
+    std::set<std::string> bundleIDs;
+    for (const auto& [bundleID, change] : recovered.pendingChanges)
+        bundleIDs.insert(bundleID);
+    for (const auto& [bundleID, marked] : recovered.markedForDeletion)
+        bundleIDs.insert(bundleID);
+    for (const std::string& bundleID : bundleIDs) {
+        if (const Status checked = recoverRow(bundleID, recovered); !checked)
+            return checked;
+    }
+    return Done{};
 }
 
 /// Puts the places where an interrupted transfer's icons stand now in the stead of those that were staged. True
@@ -202,6 +222,21 @@ Status PendingChangesManager::recoverRow(const std::string& bundleID, StagedChan
     log("   " + bundleID + ": " + std::to_string(display.size()) +
         " icons, selected: " + (selected ? std::to_string(*selected) : "none"));
     return Done{};
+}
+
+void PendingChangesManager::dropIcons(const std::set<MacPath>& icons) {
+    assertOnMainThread("Dropping icons");
+    std::set<MacPath> dropped;
+    for (const MacPath& icon : icons) {
+        if (isPendingIconPath(icon) && m_files.exists(icon))
+            dropped.insert(icon);
+    }
+    for (const auto& [bundleID, change] : m_staged.pendingChanges) {
+        for (const MacPath& icon : change.iconPaths)
+            dropped.erase(icon);
+    }
+    for (const MacPath& icon : dropped)
+        m_store.deletePendingIcon(icon);
 }
 
 /// What nothing names was left by a kill, unless a file that was put aside names it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "changes/ReloadNotifications.h"
 #include "changes/apply/ApplyAudit.h"
 #include "changes/apply/ApplyPlan.h"
 #include "changes/apply/ApplyServices.h"
@@ -8,16 +9,11 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 class QObject;
 
 namespace tavrik {
-
-/// Posted on the main thread at the end of an apply.
-inline constexpr std::string_view kReloadApplicationsAfterApply = "ReloadApplicationsAfterApply";
-inline constexpr std::string_view kUpdateApplicationStateAfterApply = "UpdateApplicationStateAfterApply";
 
 /// What an apply came to.
 struct ApplyResult {
