@@ -10,7 +10,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tavrik {
 
@@ -77,14 +76,6 @@ void sweepIconFolder(FileManager& files, IconCache& cache, const MacPath& folder
     const auto left = files.list(folder);
     if (left && left->empty())
         ignoreFailure(files.remove(folder));
-}
-
-void removeUnfinishedIcons(FileManager& files, const MacPath& folder) {
-    const auto names = files.list(folder);
-    for (const std::string& name : names ? *names : std::vector<std::string>()) {
-        if (isUnfinished(name))
-            removeLeftover(files, folder / name);
-    }
 }
 
 } // namespace tavrik

@@ -21,7 +21,4 @@ Status removeIconFolder(FileManager& files, IconCache& cache, const MacPath& fol
 void sweepIconFolder(FileManager& files, IconCache& cache, const MacPath& folder,
                      const std::set<MacPath>& named);
 
-/// Removes what killed writes left of icons and thumbnails, and nothing else. Not while any are written.
-void removeUnfinishedIcons(FileManager& files, const MacPath& folder);
-
 } // namespace tavrik

@@ -56,12 +56,8 @@ std::optional<Bytes> databaseOf(BackupManager& backups, const MacPath& backup) {
     return std::nullopt;
 }
 
-MacPath copyFile(const Mac& mac) {
-    return MacPath(mac.volume.temporaryFolder()) / "backup_check.db";
-}
-
 std::optional<std::vector<Placement>> placementsInBackup(Mac& mac, Bytes database) {
-    TemporaryDatabase copy(mac, copyFile(mac));
+    TemporaryDatabase copy(mac, MacPath(mac.volume.temporaryFolder()) / "backup_check.db");
     if (const Status opened = copy.open(database); !opened) {
         log("  Failed to open backup database: " + opened.error().description);
         return std::nullopt;
@@ -128,11 +124,6 @@ int checkLayout(const ApplyServices& with) {
     else
         log(std::to_string(result) + " apps with changed positions");
     return result;
-}
-
-void removeLayoutCheckLeftovers(const ApplyServices& with) {
-    if (const Status removed = TemporaryDatabase::remove(with.mac, copyFile(with.mac)); !removed)
-        log("⚠️ Could not remove " + copyFile(with.mac).string() + ": " + removed.error().description);
 }
 
 } // namespace tavrik

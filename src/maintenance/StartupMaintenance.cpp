@@ -4,11 +4,11 @@
 #include "changes/PendingChangesManager.h"
 #include "changes/RecoveryFile.h"
 #include "maintenance/LayoutCheck.h"
+#include "maintenance/Leftovers.h"
 #include "maintenance/OrphanedIcons.h"
 #include "maintenance/OrphanedWrappers.h"
-#include "maintenance/UnfinishedFiles.h"
-#include "model/SettingsManager.h"
 #include "platform/Alerts.h"
+#include "platform/FileManager.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
 #include "platform/MainQueue.h"
@@ -80,8 +80,10 @@ void StartupMaintenance::run() {
 void StartupMaintenance::removeLeftovers() {
     m_with.backups.removeLeftovers();
     m_with.themes.library().removeLeftovers();
-    removeLayoutCheckLeftovers(m_with);
-    removeUnfinishedFiles(m_with.mac.files, m_with.settings.appSupportURL());
+    for (const MacPath& leftover : leftovers(m_with)) {
+        if (const Status removed = m_with.mac.files.remove(leftover); !removed)
+            log("⚠️ Could not remove " + leftover.string() + ": " + removed.error().description);
+    }
 }
 
 void StartupMaintenance::offerRecovery() {
