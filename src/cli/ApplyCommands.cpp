@@ -98,6 +98,8 @@ ExitCode PlanCommand::run(Companion& companion) {
         return ExitCode::done;
     }
     sayPlan(companion, preview.plan, subjectNames(managers));
+    for (const ApplicationInfo& app : preview.runningApps)
+        companion.say("To be closed before: " + app.name);
     for (const std::string& obstacle : preview.obstacles)
         companion.say("In the way: " + obstacle);
     return ExitCode::done;

@@ -1,6 +1,7 @@
 #include "changes/apply/ApplyPipeline.h"
 
 #include "changes/PendingChangesManager.h"
+#include "changes/apply/AffectedApps.h"
 #include "changes/apply/ApplyObstacles.h"
 #include "changes/apply/ApplyRun.h"
 #include "changes/apply/ProgressOverlayManager.h"
@@ -53,6 +54,7 @@ ApplyPipeline::Preview ApplyPipeline::preview(const StagedChanges& staged) const
     Preview preview;
     preview.snapshot = takeSnapshot(m_services, staged);
     preview.obstacles = obstaclesTo(m_services, preview.snapshot);
+    preview.runningApps = runningAffectedApps(m_services.mac, preview.snapshot);
     if (const auto stores = readApplyStores(m_services, preview.snapshot))
         preview.plan = planOf(preview.snapshot, *stores, m_services.fonts.fontReplacer());
     else if (preview.obstacles.empty())

@@ -58,6 +58,7 @@ public:
         ApplySnapshot snapshot;
         ApplyPlan plan;
         std::vector<std::string> obstacles;
+        std::vector<ApplicationInfo> runningApps; ///< to be closed before
     };
 
     Preview preview(const StagedChanges& staged) const;

@@ -21,6 +21,10 @@ public:
     [[nodiscard]] bool setIcon(const MacPath& path, const QImage& icon) override;
     bool clearIcon(const MacPath& path) override;
     std::vector<RunningApplication> runningApplications() const override;
+
+    /// Nothing here has documents to save, so it quits at once.
+    bool askToQuit(const std::string& bundleID) override { return forceTerminate(bundleID); }
+
     [[nodiscard]] bool forceTerminate(const std::string& bundleID) override;
 
 private:

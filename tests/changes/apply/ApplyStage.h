@@ -60,6 +60,8 @@ public:
 
     std::vector<RunningApplication> runningApplications() const override { return running; }
 
+    bool askToQuit(const std::string& bundleID) override { return forceTerminate(bundleID); }
+
     bool forceTerminate(const std::string& bundleID) override {
         std::erase_if(running, [&](const RunningApplication& app) {
             return app.bundleID == bundleID && !stubborn.contains(bundleID);

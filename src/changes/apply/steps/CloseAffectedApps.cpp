@@ -1,9 +1,9 @@
+#include "changes/apply/AffectedApps.h"
 #include "changes/apply/steps/Steps.h"
 #include "platform/Alerts.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
-#include "platform/Volume.h"
 #include "platform/Workspace.h"
 
 #include <algorithm>
@@ -20,25 +20,9 @@ constexpr auto kAfterForceQuit = 1500ms;
 constexpr auto kAfterClosing = 500ms;
 constexpr std::size_t kCloseAll = 0; ///< the button
 
-/// The system starts these again at once, and restyling needs none of them closed.
-constexpr std::string_view kExempt[] = {"com.apple.finder", "com.apple.dock", "com.apple.launchpad.launcher"};
-
 bool isRunning(const ApplyRun& run, const std::string& bundleID) {
     const auto running = run.with.mac.workspace.runningApplications();
     return std::ranges::find(running, bundleID, &RunningApplication::bundleID) != running.end();
-}
-
-std::vector<ApplicationInfo> affectedApps(const ApplyRun& run) {
-    const auto running = run.with.mac.workspace.runningApplications();
-    std::vector<ApplicationInfo> affected;
-    for (const ApplyTask& task : run.snapshot.tasks) {
-        const std::string& bundleID = task.app.bundleID;
-        const bool isExempt = std::ranges::find(kExempt, bundleID) != std::end(kExempt) ||
-                              bundleID == run.with.mac.volume.bundleIdentifier();
-        if (!isExempt && std::ranges::find(running, bundleID, &RunningApplication::bundleID) != running.end())
-            affected.push_back(task.app);
-    }
-    return affected;
 }
 
 std::string joined(const std::vector<ApplicationInfo>& apps, std::string_view separator) {
@@ -58,7 +42,7 @@ Next cancel(ApplyRun& run, const char* line, std::string reason) {
 } // namespace
 
 Next closeAffectedApps(ApplyRun& run) {
-    const auto affected = affectedApps(run);
+    const auto affected = runningAffectedApps(run.with.mac, run.snapshot);
     if (affected.empty())
         return Next::goOn;
 
