@@ -26,7 +26,7 @@ T.CheckBox {
             visible: row.checked
             name: "check"
             size: 12
-            color: Style.onAccent
+            color: Style.textOnAccent
         }
     }
     contentItem: Label {

@@ -22,7 +22,7 @@ T.Button {
         text: button.text
         horizontalAlignment: Text.AlignHCenter
         font.weight: button.kind === PushButton.Plain ? Font.Normal : Font.Medium
-        color: button.kind === PushButton.Default ? Style.onAccent
+        color: button.kind === PushButton.Default ? Style.textOnAccent
              : button.kind === PushButton.Danger ? Style.danger : Style.text
         Accessible.ignored: true
     }

@@ -27,7 +27,7 @@ T.RadioButton {
             width: 6
             height: 6
             radius: 3
-            color: Style.onAccent
+            color: Style.textOnAccent
         }
     }
     contentItem: Label {

@@ -14,7 +14,7 @@ T.TextField {
     color: Style.text
     placeholderTextColor: Style.faint
     selectionColor: Style.accent
-    selectedTextColor: Style.onAccent
+    selectedTextColor: Style.textOnAccent
     font.pixelSize: Style.bodyText
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true

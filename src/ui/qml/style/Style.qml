@@ -21,7 +21,7 @@ QtObject {
     readonly property color selection: dark ? "#3d4c8dff" : "#1f2f6fed"
     readonly property color accent: dark ? "#4c8dff" : "#2f6fed"
     readonly property color accentPressed: dark ? "#3b78e0" : "#2459c4"
-    readonly property color onAccent: "#ffffff"
+    readonly property color textOnAccent: "#ffffff"
     readonly property color warning: dark ? "#ffb340" : "#a14a00"
     readonly property color danger: dark ? "#ff6961" : "#c9001a"
     readonly property color good: dark ? "#32d74b" : "#1f7a35"
