@@ -63,6 +63,7 @@ void AppDelegate::runMaintenance() {
         m_managers.applyServices,
         {.refreshLists = [this] { m_coordinators.refresh(); }, .browseBackups = [this] { browseBackups(); }});
     maintenance.removeLeftovers();
+    m_managers.themes.open();
     m_coordinators.refresh();
     if (!m_endsWhenIdle)
         maintenance.offerRecovery();

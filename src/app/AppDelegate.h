@@ -68,6 +68,10 @@ public:
     /// Hears the result of each apply, on the main thread.
     void setApplyObserver(std::function<void(const ApplyResult&)> observer) { m_applied = std::move(observer); }
 
+    /// Does what blocks after all that is under way, never beside an apply. The application does not end before
+    /// it is done.
+    void inBackground(std::function<void()> work);
+
     /// Hears when `isStarting`, `isBlocked` or what a menu may do has changed.
     void setStateObserver(std::function<void()> observer) { m_stateChanged = std::move(observer); }
 
@@ -79,7 +83,6 @@ private:
     bool isAbandoned();
     bool mustWait();
     void closeManagedWindows();
-    void inBackground(std::function<void()> work);
     void workEnded();
 
     Managers& m_managers;

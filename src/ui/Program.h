@@ -69,7 +69,7 @@ private:
     AppDelegate m_delegate;
     Images m_images;
     Notices m_notices;
-    Background m_background;
+    Background m_background{m_delegate};
     WindowModel m_model;
     QQmlApplicationEngine m_engine;
     std::unique_ptr<Window> m_main;

@@ -3,33 +3,49 @@
 #include "platform/Mac.h"
 #include "platform/Threads.h"
 #include "practice/furnish/Furnish.h"
+#include "ui/AlertWindow.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 
 #include <QGuiApplication>
 #include <QQuickStyle>
-#include <QQuickWindow>
 
 #include <cstdio>
 
+namespace {
+
+using namespace tavrik;
+
+int refuseToStart(WindowAlerts& alerts, const std::string& sentence) {
+    std::fprintf(stderr, "%s\n", sentence.c_str());
+    const AlertWindow window(alerts);
+    alerts.ask({.title = "Tavrik cannot start", .text = sentence, .buttons = {"Quit"}});
+    return 1;
+}
+
+bool mayRun(MacHost& host, WindowAlerts& alerts) {
+    const AlertWindow window(alerts);
+    return passesVersionGate(host.mac().machine, alerts);
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    using namespace tavrik;
     declareMainThread();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Tavrik"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(TAVRIK_VERSION));
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the components bring their own looks
 
     WindowAlerts alerts;
     const auto host = openPracticeMac(practice::defaultRoot(), alerts);
-    if (!host) {
-        std::fprintf(stderr, "%s\n", host.error().description.c_str());
+    if (!host)
+        return refuseToStart(alerts, host.error().description);
+    if (!mayRun(**host, alerts))
         return 1;
-    }
     const auto program = Program::open(**host, alerts);
-    if (!program) {
-        std::fprintf(stderr, "%s\n", program.error().description.c_str());
-        return 1;
-    }
+    if (!program)
+        return refuseToStart(alerts, program.error().description);
     (*program)->start();
     return QGuiApplication::exec();
 }

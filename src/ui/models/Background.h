@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/AppDelegate.h"
 #include "platform/MainQueue.h"
-#include "platform/SerialQueue.h"
 
 #include <QObject>
 #include <QPointer>
@@ -12,15 +12,17 @@
 
 namespace tavrik {
 
-/// The queue on which the window's models do what blocks, one work after the other: never beside each other,
-/// and never beside an apply that was begun from here.
+/// Does for the window's models what blocks: one work after the other, on the queue of the applies and of the
+/// checks of the start, so that none runs beside another. The program does not end before they are done.
 class Background {
 public:
+    explicit Background(AppDelegate& delegate) : m_delegate(delegate) {}
+
     /// Runs `work` on the queue and hands its answer to `then` on the main thread, unless `context`, alive
     /// during the call, is gone by then. Main thread; returns at once.
     template<typename Work, typename Then>
     void run(QObject* context, Work work, Then then) {
-        m_queue.async(
+        m_delegate.inBackground(
             [context = QPointer<QObject>(context), work = std::move(work), then = std::move(then)]() mutable {
                 using Answer = std::invoke_result_t<Work>;
                 if constexpr (std::is_void_v<Answer>) {
@@ -36,7 +38,7 @@ public:
     }
 
 private:
-    SerialQueue m_queue{"com.tavrik.window"};
+    AppDelegate& m_delegate;
 };
 
 } // namespace tavrik

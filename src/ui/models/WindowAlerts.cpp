@@ -17,13 +17,13 @@ struct WindowAlerts::Question {
 };
 
 std::size_t WindowAlerts::ask(const Alert& alert) {
-    std::size_t answer = alert.buttons.empty() ? 0 : alert.buttons.size() - 1;
+    std::size_t answer = alert.buttonWithoutAnswer();
     MainQueue::sync([&] { answer = askOnMain(alert); });
     return answer;
 }
 
 std::size_t WindowAlerts::askOnMain(const Alert& alert) {
-    Question question{alert, alert.buttons.empty() ? 0 : alert.buttons.size() - 1};
+    Question question{alert, alert.buttonWithoutAnswer()};
     m_questions.push_back(&question);
     Q_EMIT changed();
     question.loop.exec();

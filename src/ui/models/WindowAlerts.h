@@ -14,7 +14,7 @@ namespace tavrik {
 /// Asks by a sheet on the window. A question that comes while another is shown goes first; the other waits.
 ///
 /// `ask` may be called on any thread and waits there; on the main thread the window goes on living meanwhile.
-/// When the application ends, every question is answered as its last button would, which never does harm.
+/// When the application ends, every question gets the answer that loses nothing.
 class WindowAlerts : public QObject, public Alerts {
     Q_OBJECT
     QML_ELEMENT

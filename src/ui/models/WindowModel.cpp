@@ -1,13 +1,22 @@
 #include "ui/models/WindowModel.h"
 
 #include "app/AppDelegate.h"
+#include "app/MacHost.h"
 #include "app/Managers.h"
+#include "platform/Mac.h"
+#include "platform/UserDefaults.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QPalette>
 
 namespace tavrik {
+
+namespace {
+
+/// User default: the person was told what the program does.
+constexpr std::string_view kWelcomed = "Welcomed";
+
+} // namespace
 
 WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
     : m_with(with),
@@ -21,14 +30,64 @@ WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
       m_backups(with),
       m_health(with),
       m_leaving(with),
-      m_preferences(with) {
+      m_preferences(with),
+      m_isFirstStart(!with.host.mac().defaults.value(kWelcomed)),
+      m_menus(*this, with.delegate) {
     qGuiApp->installEventFilter(this);
-    with.delegate.setStateObserver([this] { Q_EMIT stateChanged(); });
+    with.delegate.setStateObserver([this] { stateMayHaveChanged(); });
     m_observations.push_back(with.managers.notificationCenter.observe(std::string(kPendingChangesUpdated),
-                                                                      [this] { Q_EMIT stateChanged(); }));
+                                                                      [this] { stateMayHaveChanged(); }));
+    QObject::connect(&m_apply, &ApplyModel::changed, this, [this] { m_menus.refresh(); });
+    QObject::connect(&m_alerts, &WindowAlerts::changed, this, [this] { m_menus.refresh(); });
+    QObject::connect(&m_edits, &EditActions::changed, this, [this] { m_menus.refresh(); });
     // An apply gives icon files other numbers.
     m_observations.push_back(with.managers.notificationCenter.observe(
         std::string(kReloadApplicationsAfterApply), [this] { m_with.images.raiseRevision(); }));
+}
+
+void WindowModel::stateMayHaveChanged() {
+    if (m_wasStarting && !m_with.delegate.isStarting()) {
+        m_wasStarting = false;
+        m_edits.begin();
+    }
+    Q_EMIT stateChanged();
+    m_menus.refresh();
+}
+
+void WindowModel::ask(Request request) {
+    switch (request) {
+    case Request::AddIcons:
+    case Request::Find:
+        if (m_place != Place::UserApps && m_place != Place::SystemApps)
+            goTo(Place::UserApps);
+        setShowsPreview(false);
+        break;
+    case Request::NewTheme:
+    case Request::ImportTheme:
+    case Request::ImportFolder:
+        goTo(Place::Themes);
+        break;
+    case Request::Health:
+    case Request::Leave:
+        openSettings();
+        break;
+    default:
+        break;
+    }
+    Q_EMIT asked(request);
+}
+
+void WindowModel::goTo(Place place) {
+    setShowsPreview(false);
+    setPlace(place);
+}
+
+void WindowModel::endFirstStart() {
+    if (!m_isFirstStart)
+        return;
+    m_isFirstStart = false;
+    ignoreFailure(m_with.host.mac().defaults.set(kWelcomed, plist::Value(true)));
+    Q_EMIT isFirstStartChanged();
 }
 
 void WindowModel::setPlace(Place place) {
@@ -36,6 +95,7 @@ void WindowModel::setPlace(Place place) {
         return;
     m_place = place;
     Q_EMIT placeChanged();
+    m_menus.refresh();
 }
 
 void WindowModel::setShowsPreview(bool shows) {
@@ -43,6 +103,7 @@ void WindowModel::setShowsPreview(bool shows) {
         return;
     m_showsPreview = shows;
     Q_EMIT showsPreviewChanged();
+    m_menus.refresh();
 }
 
 bool WindowModel::isBlocked() const {
@@ -65,10 +126,6 @@ bool WindowModel::canApply() const {
 bool WindowModel::isDark() const {
     const QPalette palette = QGuiApplication::palette();
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-}
-
-void WindowModel::discard() {
-    m_with.delegate.discardChanges();
 }
 
 void WindowModel::refresh() {

@@ -9,6 +9,7 @@
 #include "ui/models/HealthPage.h"
 #include "ui/models/Images.h"
 #include "ui/models/LeavingPage.h"
+#include "ui/models/Menus.h"
 #include "ui/models/Notices.h"
 #include "ui/models/PreferencesPage.h"
 #include "ui/models/PreviewModel.h"
@@ -16,6 +17,7 @@
 #include "ui/models/UiServices.h"
 #include "ui/models/WindowAlerts.h"
 
+#include <QGuiApplication>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -42,6 +44,7 @@ class WindowModel : public QObject {
     Q_PROPERTY(tavrik::WindowAlerts* alerts READ alerts CONSTANT)
     Q_PROPERTY(tavrik::Images* images READ images CONSTANT)
     Q_PROPERTY(tavrik::Notices* notices READ notices CONSTANT)
+    Q_PROPERTY(tavrik::Menus* menus READ menus CONSTANT)
 
     Q_PROPERTY(Place place READ place WRITE setPlace NOTIFY placeChanged)
     Q_PROPERTY(bool showsPreview READ showsPreview WRITE setShowsPreview NOTIFY showsPreviewChanged)
@@ -51,10 +54,28 @@ class WindowModel : public QObject {
     Q_PROPERTY(int stagedCount READ stagedCount NOTIFY stateChanged)
     Q_PROPERTY(bool canApply READ canApply NOTIFY stateChanged)
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
+    Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
 
 public:
     enum class Place { UserApps, SystemApps, Themes, Fonts };
     Q_ENUM(Place)
+
+    /// What the menus ask of the views.
+    enum class Request {
+        About,
+        AddIcons, ///< to the current row
+        NewTheme,
+        ImportTheme,
+        ImportFolder,
+        Find,
+        Welcome,
+        Health,
+        Leave,
+        CloseWindow,
+        Minimize,
+        Zoom,
+    };
+    Q_ENUM(Request)
 
     WindowModel(const UiServices& with, WindowAlerts& alerts);
 
@@ -84,6 +105,8 @@ public:
 
     Notices* notices() { return &m_with.notices; }
 
+    Menus* menus() { return &m_menus; }
+
     Place place() const { return m_place; }
 
     void setPlace(Place place);
@@ -96,13 +119,27 @@ public:
     bool canApply() const;
     bool isDark() const;
 
-    /// Drops what is staged.
-    Q_INVOKABLE void discard();
+    bool isRightToLeft() const { return QGuiApplication::isRightToLeft(); }
+
+    /// Goes to the place where the request is met, and passes it on to its view.
+    void ask(Request request);
+    /// To a place, out of the preview.
+    Q_INVOKABLE void goTo(tavrik::WindowModel::Place place);
+    /// Whether the person is to be told what the program does.
+    Q_PROPERTY(bool isFirstStart READ isFirstStart NOTIFY isFirstStartChanged)
+
+    bool isFirstStart() const { return m_isFirstStart; }
+
+    Q_INVOKABLE void endFirstStart();
+
     /// Writes what is applied once more, and restarts the Dock.
     Q_INVOKABLE void refresh();
     Q_INVOKABLE void openSettings();
 
 Q_SIGNALS:
+    /// For the views, which are there when this comes.
+    void asked(tavrik::WindowModel::Request request);
+    void isFirstStartChanged();
     /// The person wants to quit.
     void quitAsked();
     void placeChanged();
@@ -128,6 +165,11 @@ private:
     PreferencesPage m_preferences;
     Place m_place = Place::UserApps;
     bool m_showsPreview = false;
+    bool m_isFirstStart;
+    bool m_wasStarting = true;
+    void stateMayHaveChanged();
+
+    Menus m_menus;
     std::vector<NotificationCenter::Observation> m_observations;
 };
 

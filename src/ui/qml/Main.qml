@@ -15,13 +15,30 @@ C.ApplicationWindow {
     title: qsTr("Tavrik")
     color: Style.window
     font.pixelSize: Style.bodyText
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: window.model.isRightToLeft
     LayoutMirroring.childrenInherit: true
 
     Binding {
         target: Style
         property: "dark"
         value: window.model.isDark
+    }
+
+    menuBar: Loader {
+        sourceComponent: Qt.platform.os === "osx" ? null : windowMenus
+
+        Component {
+            id: windowMenus
+
+            AppMenuBar { menus: window.model.menus }
+        }
+    }
+    Loader {
+        active: Qt.platform.os === "osx"
+        Component.onCompleted: {
+            if (active)
+                setSource("menus/NativeMenuBar.qml", { menus: window.model.menus })
+        }
     }
 
     Sidebar {
@@ -59,7 +76,21 @@ C.ApplicationWindow {
         notices: window.model.notices
     }
 
+    WelcomeSheet { model: window.model }
+    AboutSheet { model: window.model }
     ApplySheet { model: window.model }
     ProgressSheet { model: window.model }
     AlertSheet { alerts: window.model.alerts }
+
+    Connections {
+        target: window.model
+        function onAsked(request) {
+            if (request === WindowModel.CloseWindow)
+                window.close()
+            else if (request === WindowModel.Minimize)
+                window.showMinimized()
+            else if (request === WindowModel.Zoom)
+                window.visibility === Window.Maximized ? window.showNormal() : window.showMaximized()
+        }
+    }
 }

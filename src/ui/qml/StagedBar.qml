@@ -36,7 +36,7 @@ Item {
             width: parent.width
             text: qsTr("Discard")
             enabled: bar.model.canApply
-            onClicked: bar.model.discard()
+            onClicked: bar.model.edits.discard()
         }
     }
 }

@@ -5,7 +5,7 @@ import Tavrik
 T.CheckBox {
     id: row
 
-    implicitWidth: indicator.width + Style.gap + label.implicitWidth
+    implicitWidth: implicitContentWidth
     implicitHeight: 24
     opacity: enabled ? 1 : 0.45
     focusPolicy: Qt.StrongFocus
@@ -30,8 +30,6 @@ T.CheckBox {
         }
     }
     contentItem: Label {
-        id: label
-
         leftPadding: row.mirrored ? 0 : row.indicator.width + Style.gap
         rightPadding: row.mirrored ? row.indicator.width + Style.gap : 0
         text: row.text

@@ -8,7 +8,8 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    sourceSize.width: size * Screen.devicePixelRatio
+    sourceSize.height: size * Screen.devicePixelRatio
     source: name ? "image://glyph/" + name + "/" + String(color).slice(-6) : ""
     Accessible.ignored: true
 }

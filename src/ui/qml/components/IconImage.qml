@@ -19,7 +19,8 @@ Item {
         anchors.fill: parent
         asynchronous: true
         source: icon.source
-        sourceSize: Qt.size(icon.size * Screen.devicePixelRatio, icon.size * Screen.devicePixelRatio)
+        sourceSize.width: icon.size * Screen.devicePixelRatio
+        sourceSize.height: icon.size * Screen.devicePixelRatio
         fillMode: Image.PreserveAspectFit
         opacity: status === Image.Ready ? 1 : 0
         mipmap: true

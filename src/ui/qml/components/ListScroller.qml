@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic as C
-import Tavrik
 
 // A list that scrolls as lists on a Mac do, with rows that are used again.
 ListView {

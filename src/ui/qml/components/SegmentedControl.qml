@@ -32,7 +32,7 @@ Rectangle {
                 required property var modelData
                 readonly property bool isChosen: control.value === modelData.value
 
-                implicitWidth: Math.max(56, title.implicitWidth + 24)
+                implicitWidth: Math.max(56, implicitContentWidth + 24)
                 implicitHeight: control.height - 4
                 focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab
@@ -41,8 +41,6 @@ Rectangle {
                 onClicked: control.chosen(modelData.value)
 
                 contentItem: Label {
-                    id: title
-
                     text: segment.modelData.text
                     horizontalAlignment: Text.AlignHCenter
                     font.weight: segment.isChosen ? Font.Medium : Font.Normal

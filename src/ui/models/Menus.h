@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ui/models/MenuAction.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace tavrik {
+
+class AppDelegate;
+class WindowModel;
+
+/// One menu of the menu bar.
+class MenuColumn : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QList<QObject*> actions READ lines CONSTANT)
+
+public:
+    MenuColumn(QString title, QObject* parent) : QObject(parent), m_title(std::move(title)) {}
+
+    QString title() const { return m_title; }
+
+    const QList<MenuAction*>& actions() const { return m_actions; }
+
+    QList<QObject*> lines() const { return {m_actions.begin(), m_actions.end()}; }
+
+    MenuAction* add(MenuAction::Words words);
+    void addSeparator();
+
+private:
+    QString m_title;
+    QList<MenuAction*> m_actions;
+};
+
+/// The menu bar: every action that a person can take without pointing at something, with its shortcut. Which
+/// are enabled, the application's delegate says. Main thread.
+class Menus : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(QList<QObject*> columns READ columns CONSTANT)
+
+public:
+    Menus(WindowModel& window, AppDelegate& delegate);
+
+    QList<QObject*> columns() const { return {m_columns.begin(), m_columns.end()}; }
+
+    /// What is enabled, checked or said may have changed.
+    void refresh();
+
+private:
+    MenuColumn& addColumn(const QString& title);
+    void addProgram();
+    void addFile();
+    void addEdit();
+    void addView();
+    void addWindow();
+    void addHelp();
+    bool isAllowed() const;
+
+    WindowModel& m_window;
+    AppDelegate& m_delegate;
+    QList<MenuColumn*> m_columns;
+};
+
+} // namespace tavrik
