@@ -76,15 +76,16 @@ bool TavrikAppManager::swapBack(const ApplicationInfo& app, const TavrikMapping&
     const WrapperRows rows = m_index.rows(app.bundleID);
     const Row* mapped = rows.original(mapping.originalRowID);
     const Row* original = mapped ? mapped : rows.original(app.path);
-    if (!original) {
-        log("ERROR: No original app found to restore");
-        return false;
-    }
     const Row* wrapper = rowToSwapBack(rows, mapping, hidden);
-    if (!wrapper) {
+    if (!original)
+        log("ERROR: No original app found to restore");
+    else if (!wrapper)
         log("No visible tavrik app found to swap");
+    // A bundle that is gone leaves its row, and the application's place is still to be given back.
+    if (rows.originals.empty() || rows.wrappers.empty())
+        return m_exchange.swapBackIfThere(app.bundleID, mapping.originalRowID, mapping.tavrikRowID);
+    if (!original || !wrapper)
         return false;
-    }
     if (!m_exchange.swapBack(app.bundleID, original->entry.rowID, wrapper->entry.rowID)) {
         log("ERROR: Failed to swap back to original app");
         return false;
