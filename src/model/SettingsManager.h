@@ -128,9 +128,9 @@ public:
     /// in one write.
     void forgetSwap(const std::string& bundleID);
 
-    /// After a backup's files took the place of the live ones: forgets, in one write, every mapping, selected
-    /// icon and hidden-flag application, the style with its unfinished change, the records of swaps, and the
-    /// Dock bookmarks but those to be kept. Returns true when that is on disk.
+    /// After a backup's files took the place of the live ones, or everything was taken back: forgets, in one
+    /// write, every mapping, selected icon and hidden-flag application, the style with its unfinished change,
+    /// the records of swaps, and the Dock bookmarks but those to be kept. Returns true when that is on disk.
     [[nodiscard]] bool clearAfterRestore(const std::set<std::string>& dockBookmarksToKeep);
 
 private:

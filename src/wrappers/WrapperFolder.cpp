@@ -17,11 +17,6 @@ namespace tavrik {
 
 namespace {
 
-/// A custom icon belongs to the bundle that it is set on, with its file and the companions of foreign volumes.
-bool isLinked(const std::string& name) {
-    return name != "Icon\r" && !name.starts_with("._");
-}
-
 bool isSymbolicLink(const FileManager& files, const MacPath& path) {
     const auto attributes = files.attributes(path, Links::dontFollow);
     return attributes && attributes->type == FileType::symbolicLink;
@@ -29,10 +24,14 @@ bool isSymbolicLink(const FileManager& files, const MacPath& path) {
 
 } // namespace
 
+bool WrapperFolder::isLinked(const std::string& name) {
+    return name != "Icon\r" && !name.starts_with("._");
+}
+
 WrapperFolder::WrapperFolder(Mac& mac)
     : m_mac(mac),
       m_path(wrapperFolder(mac.volume.home())),
-      m_warning(m_path / " WARNING! README!.rtf") {}
+      m_warning(m_path / kWarning) {}
 
 MacPath WrapperFolder::wrapperOf(const MacPath& original) const {
     const std::string name = original.stem() + ".app";

@@ -14,6 +14,13 @@ struct Mac;
 /// to change or remove what it leads to. Background thread only; blocks on the disk and on child processes.
 class WrapperFolder {
 public:
+    /// The name of the warning; it begins with a blank and so comes first.
+    static constexpr const char* kWarning = " WARNING! README!.rtf";
+
+    /// Whether an entry of a bundle with this name is a link in its wrapper. A custom icon belongs to the
+    /// bundle that it is set on, with its file and the companions of foreign volumes.
+    static bool isLinked(const std::string& name);
+
     explicit WrapperFolder(Mac& mac);
 
     const MacPath& path() const { return m_path; }

@@ -4,6 +4,8 @@
 #include "platform/practice/Layout.h"
 #include "platform/practice/PropertyListFile.h"
 
+#include <cerrno>
+
 namespace tavrik::practice {
 
 namespace {
@@ -37,6 +39,18 @@ Status PracticeDefaults::set(std::string_view key, std::optional<plist::Value> v
     if (auto made = m_files.createFolder(kPreferencesFolder); !made)
         return made;
     return writePropertyList(m_files, preferencesFile(), std::move(*all));
+}
+
+Status PracticeDefaults::removeAll() {
+    const std::scoped_lock lock(m_mutex);
+    const auto standing = m_files.attributes(preferencesFile(), Links::dontFollow);
+    if (!standing && standing.error().code == ENOENT)
+        return Done{};
+    if (!standing)
+        return standing.error();
+    if (standing->type != FileType::file)
+        return Error{preferencesFile().string() + " is no plain file", EINVAL};
+    return m_files.remove(preferencesFile());
 }
 
 void PracticeDefaults::flushDockDomain() {

@@ -19,6 +19,7 @@ public:
 
     std::optional<plist::Value> value(std::string_view key) const override;
     Status set(std::string_view key, std::optional<plist::Value> value) override;
+    Status removeAll() override;
     void flushDockDomain() override;
 
 private:
