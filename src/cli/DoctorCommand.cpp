@@ -60,7 +60,7 @@ HealthRepair mend(Companion& companion, const Findings& found) {
         const bool isThere = std::ranges::any_of(now, [&](const HealthFinding& each) {
             return each.kind == finding.kind && each.subject == finding.subject;
         });
-        if (!isThere)
+        if (!isThere && finding.remedy == Remedy::repair)
             repair.outcomes.push_back({finding, true, "It was put right as Tavrik opened."});
     }
     return repair;

@@ -24,7 +24,7 @@ namespace tavrik {
 namespace {
 
 constexpr const char* kRows =
-    "SELECT i.rowid, i.flags, a.title, a.bundleid, a.bookmark FROM items i "
+    "SELECT i.rowid, i.flags, a.title, a.bundleid, a.bookmark, i.parent_id FROM items i "
     "JOIN apps a ON a.item_id = i.rowid WHERE a.bookmark IS NOT NULL ORDER BY i.rowid";
 constexpr const char* kTriggerKey = "SELECT value FROM dbinfo WHERE key='ignore_items_update_triggers'";
 
@@ -41,7 +41,8 @@ Status readRows(sqlite::Connection& database, HealthLook& look) {
     sqlite::Step step = statement.step();
     for (; step == sqlite::Step::row; step = statement.step()) {
         HealthLook::Row row{.number = RowID{statement.int64(0).value_or(0)},
-                            .hasFlags = statement.int32(1).has_value(),
+                            .page = RowID{statement.int64(5).value_or(0)},
+                            .flags = statement.int32(1),
                             .title = statement.text(2).value_or(""),
                             .bundleID = trimmed(statement.text(3).value_or("")),
                             .path = {},

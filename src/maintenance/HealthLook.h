@@ -24,7 +24,8 @@ struct HealthLook {
     /// A row of an application in Launchpad.
     struct Row {
         RowID number{};
-        bool hasFlags = false;
+        RowID page{}; ///< or folder
+        std::optional<std::int32_t> flags;
         std::string title;
         std::string bundleID;
         MacPath path;     ///< where its bookmark leads; empty when nothing is there

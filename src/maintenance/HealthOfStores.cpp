@@ -80,7 +80,7 @@ void checkFlags(HealthLook& look) {
     for (const HealthLook::Row& row : look.rows) {
         const bool isApples =
             QString::fromStdString(row.bundleID).startsWith(QLatin1String("com.apple."), Qt::CaseInsensitive);
-        if (row.hasFlags || isApples || row.path.empty())
+        if (row.flags || isApples || row.path.empty())
             continue;
         look.findings.push_back({Kind::nullFlags, Remedy::notNeeded, row.bundleID,
                                  row.title +

@@ -4,6 +4,7 @@
 #include "changes/apply/ApplyServices.h"
 #include "changes/apply/SelectedIcon.h"
 #include "maintenance/HealthLook.h"
+#include "maintenance/LostExchange.h"
 #include "model/SettingsManager.h"
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
@@ -21,11 +22,14 @@ namespace tavrik {
 namespace {
 
 /// An exchange is undone only between rows that were exchanged: without the wrapper's there is nothing that the
-/// original could be exchanged with.
-void forgetLostRows(const HealthLook& look, const std::string& bundleID) {
+/// original could be exchanged with. One that the settings have lost is noted again.
+void correctMapping(const HealthLook& look, const std::string& bundleID) {
     const auto mapping = look.mappings.find(bundleID);
-    if (mapping == look.mappings.end())
+    if (mapping == look.mappings.end()) {
+        if (!look.swaps.contains(bundleID))
+            noteLostExchange(look, bundleID);
         return;
+    }
     const auto* wrapper = look.rowOf(bundleID, mapping->second.tavrikRowID);
     if (!wrapper || !isWrapperPath(wrapper->best()))
         look.with.settings.removeMapping(bundleID);
@@ -34,7 +38,7 @@ void forgetLostRows(const HealthLook& look, const std::string& bundleID) {
 bool putBack(const HealthLook& look, const std::string& bundleID) {
     const ApplicationInfo app = look.applicationFor(bundleID);
     SettingsManager& settings = look.with.settings;
-    forgetLostRows(look, bundleID);
+    correctMapping(look, bundleID);
     if (app.path.empty()) {
         // Neither the application nor its wrapper is anywhere.
         settings.removeMapping(bundleID);
