@@ -60,12 +60,12 @@ std::string belongings(Companion& companion) {
     const MacPath& folder = managers.settings.appSupportURL();
     const std::size_t themes = managers.themes.installedThemes().size();
     const auto backups = managers.backups.listBackups();
-    return "the icons of all applications (" + sizeOf(contentsOf(files, managers.settings.iconCacheURL())) +
-           "), what is staged, " + counted(themes, "theme") + " (" +
-           sizeOf(contentsOf(files, managers.themes.themesDirectory())) + ") and " +
-           counted(backups.size(), "backup") + " (" +
-           sizeOf(contentsOf(files, managers.backups.backupsBaseURL())) + "), the Original State among them; " +
-           sizeOf(contentsOf(files, folder)) + " in " + folder.string();
+    const auto size = [&](const MacPath& path) { return " (" + sizeOf(contentsOf(files, path)) + ")"; };
+    return "the icons of all applications" + size(managers.settings.iconCacheURL()) + ", " +
+           counted(themes, "theme") + size(managers.themes.themesDirectory()) + ", " +
+           counted(backups.size(), "backup") + size(managers.backups.backupsBaseURL()) +
+           (backups.empty() ? "" : ", the Original State among them") +
+           ", what is staged, and the settings: all of " + folder.string() + size(folder);
 }
 
 } // namespace

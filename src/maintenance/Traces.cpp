@@ -83,7 +83,7 @@ private:
         for (const LaunchpadRow& row : rows) {
             const std::string title = row.title.value_or("");
             if (row.isApp && isOurs(row.lead()))
-                m_found.wrapperRows.push_back(m_fonts.convertToNormal(title));
+                m_found.wrapperRows.push_back(bundleName(row.lead()));
             else if (row.isApp && row.hasBookmark &&
                      isStyled(title, plainTitle(title, present(row.path), row.gone, m_fonts)))
                 m_found.styledTitles.push_back(title);
@@ -103,11 +103,12 @@ private:
         for (const dock::Tile& tile : dock::applicationTiles(dock)) {
             const std::string label = tile.label() ? *tile.label() : std::string();
             const std::string url = tile.url() ? *tile.url() : std::string();
+            const std::string plain = plainLabel(label, url, m_fonts);
             const Bytes* bookmark = tile.bookmark();
             const auto recorded = bookmark ? m_with.mac.bookmarks.recordedPath(*bookmark) : Error{};
             if (isOurs(dock::pathOf(url)) || (recorded && isOurs(*recorded)))
-                m_found.wrapperTiles.push_back(m_fonts.convertToNormal(label));
-            if (isStyled(label, plainLabel(label, url, m_fonts)))
+                m_found.wrapperTiles.push_back(plain);
+            if (isStyled(label, plain))
                 m_found.styledLabels.push_back(label);
         }
     }

@@ -24,7 +24,7 @@ struct Traces {
     std::vector<std::string> wrapperRows; ///< titles of rows that lead, or led, to a wrapper
     std::vector<std::string> styledTitles;
     std::vector<std::string> styledFolders;
-    std::vector<std::string> wrapperTiles; ///< labels of tiles that lead to a wrapper
+    std::vector<std::string> wrapperTiles; ///< names of the tiles that lead to a wrapper
     std::vector<std::string> styledLabels;
 
     bool hasFolder = false;           ///< the wrapper folder, unless it holds nothing but what is others'
