@@ -36,6 +36,8 @@ class PreparedAnswers : public Alerts {
 public:
     std::size_t ask(const Alert& alert) override {
         asked.push_back(alert);
+        if (meanwhile)
+            meanwhile();
         if (answers.empty())
             return 0;
         const std::size_t answer = answers.front();
@@ -45,6 +47,7 @@ public:
 
     std::deque<std::size_t> answers;
     std::vector<Alert> asked;
+    std::function<void()> meanwhile; ///< as long as a question is shown
 };
 
 /// Another workspace with running applications, some of which do not end.
