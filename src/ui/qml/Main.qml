@@ -30,7 +30,7 @@ C.ApplicationWindow {
         Component {
             id: windowMenus
 
-            AppMenuBar { menus: window.model.menus }
+            AppMenuBar { content: window.model.menus }
         }
     }
     Loader {

@@ -6,7 +6,7 @@ import Tavrik
 T.MenuBar {
     id: bar
 
-    required property Menus menus
+    required property Menus content
 
     implicitHeight: 26
     implicitWidth: contentItem.implicitWidth
@@ -41,7 +41,7 @@ T.MenuBar {
     }
 
     Instantiator {
-        model: bar.menus.columns
+        model: bar.content.columns
         delegate: AppMenu { }
         onObjectAdded: (index, object) => bar.insertMenu(index, object)
         onObjectRemoved: (index, object) => bar.removeMenu(object)
