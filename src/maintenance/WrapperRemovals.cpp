@@ -3,6 +3,8 @@
 #include "backups/BackupManager.h"
 #include "changes/apply/ApplyServices.h"
 #include "fonts/PlainNames.h"
+#include "maintenance/HealthLook.h"
+#include "maintenance/LostExchange.h"
 #include "maintenance/Traces.h"
 #include "maintenance/WrapperFolderContents.h"
 #include "model/SettingsManager.h"
@@ -80,6 +82,8 @@ void WrapperRemovals::remove(const ApplicationInfo& app) {
         log("⚠️ The places of " + app.bundleID + " could not be put back, so its wrapper stays");
         return;
     }
+    if (!m_with.settings.getMapping(app.bundleID) && !m_with.wrappers.isUnfinished(app.bundleID))
+        noteLostExchange(HealthLook(m_with), app.bundleID);
     bool isRemoved = m_with.wrappers.removeWrapper(app, RestartDock::no);
     for (int tries = 1; !isRemoved && tries < kMostTries && m_with.wrappers.isUnfinished(app.bundleID);
          ++tries) {

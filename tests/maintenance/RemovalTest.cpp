@@ -109,6 +109,12 @@ TEST_F(Removal, LeadsBackToTheBeginningFromEveryHistory) {
              clock.sleep(std::chrono::seconds(5)); // the Dock has started, and will not look again
              ASSERT_TRUE(mac.files.remove(kWrappers / "Atlas.app"));
          }},
+        {"what the settings knew is lost",
+         [&] {
+             restyle();
+             style(kBold);
+             ASSERT_TRUE(program->settings.clearAfterRestore({}));
+         }},
         {"a killed creation",
          [&] {
              add(kAtlas, 5);
