@@ -1,6 +1,5 @@
 #include "themes/ThemeManager.h"
 
-#include "changes/PendingChangesManager.h"
 #include "icons/HiddenThemeIcons.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
@@ -11,7 +10,6 @@
 #include "themes/ThemeError.h"
 
 #include <algorithm>
-#include <set>
 #include <tuple>
 #include <utility>
 
@@ -155,30 +153,6 @@ Status ThemeManager::removeTheme(const std::string& themeID) {
         std::erase_if(list, [&](const Theme& theme) { return theme.themeID == themeID; });
     });
     return Done{};
-}
-
-std::vector<MacPath> ThemeManager::themeIconsFor(const std::string& bundleID) const {
-    std::vector<Theme> themes;
-    StagedChanges staged;
-    MainQueue::sync(
-        [&] { std::tie(themes, staged) = std::tuple(m_installedThemes, m_pendingChanges.staged()); });
-
-    std::vector<MacPath> icons;
-    for (const Theme& theme : themes) {
-        std::set<std::string> hidden = m_hidden.hidden(theme.themeID);
-        for (const ThemeIconHide& hide : staged.pendingThemeIconHides) {
-            if (hide.themeID == theme.themeID)
-                hidden.insert(hide.iconFileName);
-        }
-        // The application's entry in the list hides what the theme has for it in either format.
-        if (staged.pendingThemeDeletions.contains(theme.themeID) || hidden.contains(bundleID + ".png"))
-            continue;
-        const auto& deleted = staged.pendingThemeIconDeletions[theme.themeID];
-        hidden.insert(deleted.begin(), deleted.end());
-        if (auto icon = m_library.iconFor(theme.themeID, bundleID, hidden))
-            icons.push_back(std::move(*icon));
-    }
-    return icons;
 }
 
 } // namespace tavrik

@@ -5,6 +5,7 @@
 #include "platform/Result.h"
 #include "themes/Theme.h"
 #include "themes/ThemeLibrary.h"
+#include "themes/ThemeOffer.h"
 
 #include <QImage>
 
@@ -102,6 +103,13 @@ public:
     /// The icons that the installed themes offer to an application, in the order of the themes: those that are
     /// hidden, or staged to be hidden or deleted, are left out. Looks at each theme's folder.
     std::vector<MacPath> themeIconsFor(const std::string& bundleID) const;
+
+    /// What decides which icons are offered, as it is now. Any thread; crosses to the main one.
+    ThemeOffer offer() const;
+
+    /// The same icons for all applications at once, by bundle identifier; those without any are left out. Lists
+    /// the folder of each theme once. Any thread, and never waits for another.
+    std::map<std::string, std::vector<MacPath>> themeIcons(const ThemeOffer& offer) const;
 
 private:
     void readThemes(); ///< with the lock held
