@@ -33,6 +33,10 @@ bool isTrashPath(const MacPath& path) {
     return path.string().find("/.Trash/") != std::string::npos;
 }
 
+bool isSystemPath(const MacPath& path) {
+    return path.string().starts_with("/System/");
+}
+
 bool isPendingIconPath(const MacPath& path) {
     return path.string().find("/PendingChanges/Icons/") != std::string::npos;
 }

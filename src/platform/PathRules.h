@@ -13,6 +13,9 @@ bool isWrapperPath(const MacPath& path);
 /// A path leads into the Trash when it contains "/.Trash/".
 bool isTrashPath(const MacPath& path);
 
+/// An application belongs to the system when it lies below "/System/".
+bool isSystemPath(const MacPath& path);
+
 /// A path is a pending icon's when it contains "/PendingChanges/Icons/".
 bool isPendingIconPath(const MacPath& path);
 
