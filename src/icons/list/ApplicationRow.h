@@ -9,6 +9,8 @@
 
 namespace tavrik {
 
+struct IconRow;
+
 /// One row of a list: the record, and what is shown, searched and sorted by.
 struct ApplicationRow {
     ApplicationInfo app;
@@ -22,6 +24,9 @@ struct ApplicationRow {
     /// Its icons in display order: the visible permanent ones, then the pending ones. The theme icons follow
     /// them.
     std::vector<MacPath> displayPaths() const;
+
+    /// The fields of the record that speak of its own icons.
+    IconRow icons() const;
 
     /// A custom icon is chosen: applied, or staged to be.
     bool isThemed() const { return app.selectedIconIndex >= 0; }

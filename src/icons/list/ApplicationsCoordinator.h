@@ -1,5 +1,6 @@
 #pragma once
 
+#include "changes/StagedChanges.h"
 #include "icons/list/ApplicationRow.h"
 #include "icons/list/ListFilter.h"
 #include "icons/list/RowOrder.h"
@@ -12,7 +13,10 @@
 #include <QImage>
 #include <QObject>
 
+#include <atomic>
 #include <functional>
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +34,7 @@ class SettingsManager;
 class ThemeManager;
 class UnsupportedAppsManager;
 struct CatalogueReading;
+struct StagedDifference;
 struct Mac;
 
 /// Posted on the main thread after each change to a row.
@@ -57,7 +62,9 @@ struct ListServices {
 /// with a row into staged changes. Main thread only; reading and decoding run elsewhere and come back here.
 ///
 /// It follows what is staged by itself: after "PendingChangesUpdated" the rows whose staged changes differ are
-/// read anew, at once.
+/// read anew, at once. A chosen icon of a theme is recorded as a place among those that are offered; when
+/// others come or go, the coordinator stages the place where it stands then, or the application's own icon when
+/// the person has hidden or deleted the chosen one. Nothing is staged so while an apply runs.
 class ApplicationsCoordinator {
 public:
     ApplicationsCoordinator(LoadingMode mode, const ListServices& with);
@@ -110,6 +117,23 @@ public:
     Status hideThemeIcon(const std::string& bundleID, const std::string& themeID, const std::string& fileName);
 
 private:
+    struct MovedChoice;
+
+    ApplicationRow describe(ApplicationInfo app, const CatalogueReading& reading) const;
+    bool readIcons(ApplicationRow& row);
+    IconRow recordedIcons(const std::string& bundleID) const;
+    void pendingChangesUpdated();
+    void readAnew(const StagedDifference& difference);
+    void follow(const std::vector<MovedChoice>& choices);
+    void analyseShapes();
+    void shapesAnalysed();
+
+    Result<ApplicationRow> restylable(const std::string& bundleID, const char* refusedForIOS,
+                                      const char* refusedForUnsupported) const;
+    Result<int> recordedPlace(const ApplicationRow& row, int index);
+    Error changedMeanwhile(const ApplicationRow& row);
+    std::function<void(const Result<MacPath>&)> stagingOf(const ApplicationRow& row, Completion completion);
+
     const LoadingMode m_mode;
     const ListServices m_with;
     ApplicationsTable* m_table = nullptr;
@@ -117,7 +141,14 @@ private:
     std::vector<ApplicationRow> m_filteredApplications;
     SortOrder m_sortOrder = SortOrder::ascending;
     bool m_isLoaded = false;
+    ListFilter m_filter;  ///< by which `m_filteredApplications` were chosen
+    StagedChanges m_seen; ///< with which the records were read
+    bool m_isReading = false;
+    std::map<std::string, std::vector<std::string>> m_warnings; ///< of each record as it was last read
     bool m_isAnalyzingIcons = false;
+    int m_analysisRun = 0;
+    std::set<MacPath> m_analysed; ///< applications whose icons need no second look before the next load
+    std::atomic<bool> m_isStopping = false;
     std::vector<NotificationCenter::Observation> m_observations;
     QObject m_mainThread;
     SerialQueue m_iconQueue{"com.tavrik.icons"}; ///< last: runs out before the rest goes

@@ -4,6 +4,9 @@
 
 #include <QAbstractListModel>
 
+#include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tavrik {
@@ -30,15 +33,28 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+    /// No two rows have the same identifier.
     void show(const std::vector<ApplicationRow>& rows) override;
 
+    /// As they were last shown.
     const std::vector<ApplicationRow>& rows() const { return m_rows; }
 
     /// -1 when it is not shown.
-    int rowOf(const std::string& bundleID) const;
+    int rowOf(const std::string& identifier) const;
 
 private:
+    using Places = std::unordered_map<std::string_view, int>; ///< by bundle identifier
+
+    static const std::string& identifierOf(const ApplicationRow* row);
+    void removeOthers(const Places& places);
+    void moveInto(const Places& places);
+    void insertMissing(const std::vector<ApplicationRow>& rows);
+    void replace(const std::vector<ApplicationRow>& rows);
+
     std::vector<ApplicationRow> m_rows;
+    /// What the view sees. Leads into `m_rows`, and on the way from one set of rows to the next into both: so a
+    /// step moves pointers, not rows.
+    std::vector<const ApplicationRow*> m_shown;
 };
 
 } // namespace tavrik

@@ -17,6 +17,7 @@ namespace tavrik {
 class AppManager;
 class DockManager;
 class ThemeManager;
+struct ThemeOffer;
 
 /// What the lists are made of, read at one moment.
 struct CatalogueReading {
@@ -32,19 +33,23 @@ public:
 
     /// Reads anew and hands the reading over on the main queue. Calls that come while a reading is under way
     /// share the one after it, so that the last call always sees what was on disk when it came.
-    void read(std::function<void(const CatalogueReading&)> completion);
+    using Completion = std::function<void(const CatalogueReading&)>;
+    void read(Completion completion);
 
     /// The same on the calling thread, not the main one.
     CatalogueReading readNow() const;
 
 private:
     void start();
+    void finish(const CatalogueReading& reading, const ThemeOffer& offer,
+                const std::vector<Completion>& served);
+    CatalogueReading readNow(const ThemeOffer& offer) const;
 
     AppManager& m_apps;
     const DockManager& m_dock;
     const ThemeManager& m_themes;
     bool m_isReading = false;
-    std::vector<std::function<void(const CatalogueReading&)>> m_waiting;
+    std::vector<Completion> m_waiting;
     QObject m_mainThread;
     SerialQueue m_queue{"com.tavrik.catalogue"}; ///< last: runs out before the rest goes
 };

@@ -2,8 +2,10 @@
 
 #include "icons/list/ListFilter.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tavrik {
 
@@ -29,11 +31,27 @@ public:
     void setShowOnlyNonSquircle(bool shows);
     void setShowUnsupportedApps(bool shows);
     void setSearchText(const std::string& text);
-    void setIconAnalysis(bool isInProgress, double progress);
+
+    /// The lists look at their icons in runs of their own. Those that overlap count together, each by its
+    /// number of icons. Begins one; the answer names it in the calls below, the last of which ends it.
+    int beginIconAnalysis(std::size_t icons);
+    void advanceIconAnalysis(int run, double progress); ///< from 0 to 1
+    void endIconAnalysis(int run);
 
 private:
+    struct Analysis {
+        std::size_t icons = 0;
+        double progress = 0;
+        bool isOver = false;
+    };
+
+    template<typename Value>
+    void set(Value& field, const Value& value);
+    void updateIconAnalysis();
+
     NotificationCenter& m_notifications;
     ListFilter m_filter;
+    std::vector<Analysis> m_analyses; ///< of which one at least is under way, or the last ones
     bool m_isIconAnalysisInProgress = false;
     double m_analysisProgress = 0;
 };
