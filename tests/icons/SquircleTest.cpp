@@ -49,6 +49,7 @@ TEST(SquircleTest, TellsTheStandardOutlineFromOthers) {
         {"disc", disc(1024), false},
         {"squircle of 16 pixels", squircle(16), true},
         {"squircle that no grid fits", squircle(100), true},
+        {"squircle of odd size", squircle(300), true},
         {"squircle of 1024 pixels", squircle(1024), true},
         {"faint squircle", squircle(128, 128), false},
         {"squircle just strong enough", squircle(128, 129), true},
