@@ -25,6 +25,7 @@ constexpr int kSquareSide = 1024; ///< pixels
 /// Scaled premultiplied, so that the colour of transparent pixels does not bleed into the edges.
 constexpr auto kFormat = QImage::Format_ARGB32_Premultiplied;
 constexpr std::size_t kLargestIconFile = 64u << 20;
+constexpr const char* kCustomIconFile = "Icon\r"; ///< in every folder and bundle that has a custom icon
 
 /// The representations worth decoding, in this order: those of at least so many pixels a side from the
 /// smallest, or else the largest alone, the first of equals.
@@ -80,6 +81,12 @@ QImage IconManager::appIcon(const MacPath& atPath, int atLeast) const {
             return image;
     }
     return m_mac.workspace.icon(atPath);
+}
+
+QImage IconManager::shownIcon(const MacPath& atPath, int atLeast) const {
+    // The workspace decodes an icon at its largest size.
+    return m_mac.files.exists(atPath / kCustomIconFile) ? m_mac.workspace.icon(atPath)
+                                                        : appIcon(atPath, atLeast);
 }
 
 IconManager::IconData IconManager::appIconData(const MacPath& atPath, std::size_t beginningBytes) const {

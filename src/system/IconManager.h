@@ -27,6 +27,10 @@ public:
     /// files.
     QImage appIcon(const MacPath& atPath, int atLeast) const;
 
+    /// The icon that the Mac shows for a bundle: its custom icon, else its own, at least so large where there
+    /// is such a one. Never null. Any thread; reads files.
+    QImage shownIcon(const MacPath& atPath, int atLeast) const;
+
     /// What an application's icon is recognised by without decoding it.
     struct IconData {
         std::uint64_t byteCount = 0; ///< of the icon file, or of the bitmap as PNG when there is none

@@ -67,8 +67,10 @@ QImage IconProvider::picture(const QString& id, int side) {
         return {};
     const MacPath path(
         QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString());
-    const QImage scaled =
-        fitted(parts[0] == QLatin1String("app") ? m_icons.appIcon(path, side) : m_cache.loadImage(path), side);
+    const QImage scaled = fitted(parts[0] == QLatin1String("app")     ? m_icons.appIcon(path, side)
+                                 : parts[0] == QLatin1String("shown") ? m_icons.shownIcon(path, side)
+                                                                      : m_cache.loadImage(path),
+                                 side);
     const std::lock_guard lock(m_lock);
     m_pictures.insert(key, new QImage(scaled), std::max<qsizetype>(1, scaled.sizeInBytes() >> 10));
     return scaled;

@@ -31,4 +31,8 @@ QString Images::ofApp(const QString& path, int revision) const {
     return address("app", path, revision);
 }
 
+QString Images::ofShown(const QString& path, int revision) const {
+    return address("shown", path, revision);
+}
+
 } // namespace tavrik

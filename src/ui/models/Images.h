@@ -26,6 +26,8 @@ public:
     Q_INVOKABLE QString ofFile(const QString& path, int revision) const;
     /// The own icon of the application at this path of the Mac.
     Q_INVOKABLE QString ofApp(const QString& path, int revision) const;
+    /// What the Mac shows for this path of it: the custom icon, else the own one.
+    Q_INVOKABLE QString ofShown(const QString& path, int revision) const;
 
 Q_SIGNALS:
     void revisionChanged();
