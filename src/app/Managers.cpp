@@ -4,8 +4,8 @@
 
 namespace tavrik {
 
-Managers::Managers(Mac& mac)
-    : settings(mac),
+Managers::Managers(Mac& mac, SettingsManager::Use use)
+    : settings(mac, use),
       icons(mac),
       launchpadDatabase(mac, settings, icons, unsupported),
       dock(mac, settings),

@@ -26,7 +26,7 @@ namespace tavrik {
 /// Every manager, built once in this order and destroyed in reverse. Each gets what it needs by reference, so
 /// that a test builds the whole program on a volume of its own, and two can live side by side.
 struct Managers {
-    explicit Managers(Mac& mac);
+    explicit Managers(Mac& mac, SettingsManager::Use use = SettingsManager::Use::writing);
 
     NotificationCenter notificationCenter;
     SettingsManager settings;

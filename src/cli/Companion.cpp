@@ -38,10 +38,10 @@ ExitCode Companion::open(Access access) {
         if (const ExitCode locked = takeLock(access); locked != ExitCode::done)
             return locked;
     }
-    onMain([this] { m_managers.emplace(m_host->mac()); });
-    if (!m_lock)
-        m_managers->settings.setReadOnly();
-    else if (access == Access::writing)
+    // Already the managers' first look must repair nothing that another Tavrik may be writing.
+    const auto use = m_lock ? SettingsManager::Use::writing : SettingsManager::Use::looking;
+    onMain([&] { m_managers.emplace(m_host->mac(), use); });
+    if (access == Access::writing)
         m_managers->backups.removeLeftovers();
     return ExitCode::done;
 }

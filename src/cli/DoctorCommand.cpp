@@ -52,16 +52,22 @@ void sayFindings(Companion& companion, const Findings& findings) {
     }
 }
 
-/// What is not there any more when the repair begins was put right by opening.
-HealthRepair mend(Companion& companion, const Findings& found) {
+/// Adds to what was found what is found only now, and to the outcomes what is not found any more.
+HealthRepair mend(Companion& companion, Findings& found) {
     const Findings now = check(companion);
     HealthRepair repair = repairHealth(companion.managers().applyServices, now);
+    const auto isIn = [](const Findings& findings, const HealthFinding& finding) {
+        return std::ranges::any_of(findings, [&](const HealthFinding& each) { return isSame(each, finding); });
+    };
     for (const HealthFinding& finding : found) {
-        const bool isThere = std::ranges::any_of(now, [&](const HealthFinding& each) {
-            return each.kind == finding.kind && each.subject == finding.subject;
-        });
-        if (!isThere && finding.remedy == Remedy::repair)
-            repair.outcomes.push_back({finding, true, "It was put right as Tavrik opened."});
+        if (!isIn(now, finding) && finding.remedy == Remedy::repair)
+            repair.outcomes.push_back(
+                {finding, true,
+                 "It was right when the repair began: opening Tavrik and the Dock put it right."});
+    }
+    for (const HealthFinding& finding : now) {
+        if (!isIn(found, finding))
+            found.push_back(finding);
     }
     return repair;
 }
@@ -83,7 +89,7 @@ void sayRepair(Companion& companion, const HealthRepair& repair) {
 } // namespace
 
 ExitCode DoctorCommand::run(Companion& companion) {
-    const auto found = look(companion);
+    auto found = look(companion);
     if (!found)
         return ExitCode::failed;
     if (!json)
@@ -105,7 +111,8 @@ ExitCode DoctorCommand::run(Companion& companion) {
     else
         sayRepair(companion, mended);
     const bool isAllMended = std::ranges::all_of(*found, [&](const HealthFinding& finding) {
-        const auto outcome = std::ranges::find(mended.outcomes, finding, &HealthRepair::Outcome::finding);
+        const auto outcome = std::ranges::find_if(
+            mended.outcomes, [&](const HealthRepair::Outcome& each) { return isSame(each.finding, finding); });
         return !isWrong(finding) || (outcome != mended.outcomes.end() && outcome->isMended);
     });
     return isAllMended ? ExitCode::done : ExitCode::failed;

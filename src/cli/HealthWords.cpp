@@ -9,6 +9,10 @@
 
 namespace tavrik {
 
+bool isSame(const HealthFinding& one, const HealthFinding& other) {
+    return one.kind == other.kind && one.subject == other.subject;
+}
+
 std::string headingOf(const HealthFinding& finding) {
     using Kind = HealthFinding::Kind;
     if (finding.remedy == HealthFinding::Remedy::notNeeded)
@@ -71,7 +75,8 @@ QJsonArray toJson(const std::vector<HealthFinding>& findings, const HealthRepair
     QJsonArray array;
     for (const HealthFinding& finding : findings) {
         QJsonObject object = toJson(finding);
-        const auto outcome = std::ranges::find(repair.outcomes, finding, &HealthRepair::Outcome::finding);
+        const auto outcome = std::ranges::find_if(
+            repair.outcomes, [&](const HealthRepair::Outcome& each) { return isSame(each.finding, finding); });
         if (outcome != repair.outcomes.end())
             object[QLatin1String("outcome")] =
                 QJsonObject{{QLatin1String("isMended"), outcome->isMended},

@@ -10,6 +10,9 @@ namespace tavrik {
 struct HealthFinding;
 struct HealthRepair;
 
+/// Whether they tell of the same thing, at two moments.
+bool isSame(const HealthFinding& one, const HealthFinding& other);
+
 /// What the findings of its kind stand below: "Restyled applications".
 std::string headingOf(const HealthFinding& finding);
 

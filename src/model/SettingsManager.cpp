@@ -71,11 +71,13 @@ MacPath supportFolder(const Volume& volume) {
     return volume.applicationSupport() / (identifier.empty() ? kFallbackBundleIdentifier : identifier);
 }
 
-SettingsManager::SettingsManager(Mac& mac)
+SettingsManager::SettingsManager(Mac& mac, Use use)
     : m_clock(mac.clock),
       m_appSupportURL(supportFolder(mac.volume)),
       m_iconCacheURL(m_appSupportURL / "IconCache"),
       m_store(mac.files, m_appSupportURL) {
+    if (use == Use::looking)
+        m_store.setReadOnly();
     for (const MacPath& folder : {m_appSupportURL, m_iconCacheURL}) {
         if (const auto created = mac.files.createFolder(folder); !created) {
             log("Failed to create directories: " + created.error().description);

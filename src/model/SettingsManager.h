@@ -37,10 +37,12 @@ MacPath supportFolder(const Volume& volume);
 /// the next save replaces.
 class SettingsManager {
 public:
-    explicit SettingsManager(Mac& mac);
+    /// A program that may look but not write, because another one holds the support folder's lock, is read-only
+    /// from its first look on: setters change nothing and say nothing, and loading repairs nothing.
+    enum class Use { writing, looking };
+    explicit SettingsManager(Mac& mac, Use use = Use::writing);
 
-    /// For a program that may look but not write, because another one holds the support folder's lock: from now
-    /// on setters change nothing and say nothing, and loading repairs nothing.
+    /// The same from now on.
     void setReadOnly() { m_store.setReadOnly(); }
 
     const MacPath& appSupportURL() const { return m_appSupportURL; }

@@ -48,9 +48,10 @@ TEST_F(Health, LooksWithoutAChangeOnDisk) {
     remove(wrapper(kAtlas));
     write(support("AppSettings.plist"), "cut");
     write(program->pendingChanges.tempFileURL(), "cut");
-    start();
-    program->settings.setReadOnly();
     const FileTree before = treeOf(volume.root());
+    program.reset();
+    program = std::make_unique<Managers>(whole, SettingsManager::Use::looking);
+    program->themes.loadThemes();
     EXPECT_EQ(check().size(), 4u);
     // A reader notes in the index of the log that it reads.
     EXPECT_THAT(differences(before, treeOf(volume.root())), testing::Each(testing::HasSubstr("db-shm")));
