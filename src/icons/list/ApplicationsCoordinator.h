@@ -119,7 +119,6 @@ public:
 private:
     struct MovedChoice;
 
-    ApplicationRow describe(ApplicationInfo app, const CatalogueReading& reading) const;
     bool readIcons(ApplicationRow& row);
     IconRow recordedIcons(const std::string& bundleID) const;
     void pendingChangesUpdated();

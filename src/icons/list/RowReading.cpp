@@ -1,15 +1,11 @@
 #include "changes/PendingChangesManager.h"
-#include "fonts/FontReplacer.h"
-#include "fonts/PlainNames.h"
 #include "icons/IconShapeAnalysis.h"
 #include "icons/list/ApplicationsCoordinator.h"
 #include "icons/list/CatalogueReader.h"
 #include "icons/list/CheckedIcons.h"
+#include "icons/list/RowDescription.h"
 #include "icons/list/StagedDifference.h"
-#include "model/SettingsManager.h"
-#include "model/UnsupportedAppsManager.h"
 #include "model/catalogue/AppManager.h"
-#include "model/catalogue/Refusal.h"
 #include "platform/Log.h"
 #include "platform/Mac.h"
 #include "platform/PathRules.h"
@@ -17,21 +13,11 @@
 #include "themes/ThemeManager.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <string_view>
 #include <utility>
 
 namespace tavrik {
-
-namespace {
-
-std::string plainNameOf(const ApplicationInfo& app, const FontReplacer& fonts) {
-    return fonts.convertToNormal(app.name) == app.name ? app.name
-                                                       : plainTitle(app.name, std::nullopt, app.path, fonts);
-}
-
-} // namespace
 
 /// An icon of a theme that is chosen and does not stand where it stood.
 struct ApplicationsCoordinator::MovedChoice {
@@ -67,7 +53,8 @@ void ApplicationsCoordinator::load(const CatalogueReading& reading) {
     for (const ApplicationInfo& app : reading.apps) {
         if (isSystemPath(app.path) != (m_mode == LoadingMode::systemApps))
             continue;
-        ApplicationRow& row = rows.emplace_back(describe(app, reading));
+        ApplicationRow& row = rows.emplace_back(describedRow(app, reading, m_with.fonts, m_with.unsupported));
+        row.isSquircle = m_with.shapes.isSquircle(app.path);
         const auto before = known.find(app.bundleID);
         if (before == known.end())
             continue;
@@ -98,20 +85,6 @@ void ApplicationsCoordinator::load(const CatalogueReading& reading) {
         m_with.notifications.post(kApplicationDataUpdated);
 }
 
-ApplicationRow ApplicationsCoordinator::describe(ApplicationInfo app, const CatalogueReading& reading) const {
-    ApplicationRow row;
-    row.app = std::move(app);
-    row.plainName = plainNameOf(row.app, m_with.fonts);
-    row.foldedName = m_with.fonts.folded(row.plainName);
-    row.foldedBundleID = m_with.fonts.folded(row.app.bundleID);
-    row.refusal = refusal(row.app, m_with.unsupported.contains(row.app.bundleID));
-    row.isInDock = reading.dockApps.contains(row.app.bundleID);
-    row.isSquircle = m_with.shapes.isSquircle(row.app.path);
-    if (const auto icons = reading.themeIcons.find(row.app.bundleID); icons != reading.themeIcons.end())
-        row.app.themeIcons = icons->second;
-    return row;
-}
-
 /// Whether the row is another one than before. Its theme icons are known already.
 bool ApplicationsCoordinator::readIcons(ApplicationRow& row) {
     CheckedIcons icons = checkedIcons(m_with.mac.files, recordedIcons(row.app.bundleID),
@@ -132,23 +105,9 @@ bool ApplicationsCoordinator::readIcons(ApplicationRow& row) {
     return true;
 }
 
-/// As they are staged, or else stored, before anything is checked.
 IconRow ApplicationsCoordinator::recordedIcons(const std::string& bundleID) const {
-    IconRow row = m_with.pendingChanges.iconRow(bundleID);
-    const StagedChanges& staged = m_with.pendingChanges.staged();
-    if (staged.pendingChanges.contains(bundleID)) {
-        if (const auto marked = staged.markedForDeletion.find(bundleID);
-            marked != staged.markedForDeletion.end())
-            row.hiddenPermanentIndices = marked->second;
-        return row;
-    }
-    // A chosen icon of a theme is stored as a number behind the permanent ones.
-    const auto selected = m_with.settings.getSelectedIcon(bundleID);
-    if (row.selectedIconIndex < 0 && selected &&
-        *selected >= static_cast<std::int64_t>(row.permanentIconPaths.size()))
-        row.selectedIconIndex =
-            static_cast<int>(std::min<std::int64_t>(*selected, std::numeric_limits<int>::max()));
-    return row;
+    return tavrik::recordedIcons(bundleID, m_with.pendingChanges.staged(), m_with.pendingChanges,
+                                 m_with.settings);
 }
 
 void ApplicationsCoordinator::pendingChangesUpdated() {
