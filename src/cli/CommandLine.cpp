@@ -12,6 +12,10 @@
 #include "cli/StartCommand.h"
 #include "cli/WrapperCommands.h"
 
+#include <algorithm>
+#include <map>
+#include <vector>
+
 namespace tavrik {
 
 namespace {
@@ -46,6 +50,28 @@ std::string mustBeCount(const std::string& count) {
 
 void addBackupName(CLI::App& command, std::string& name) {
     command.add_option("NAME", name, "As \"backup list\" shows it")->required();
+}
+
+/// The filters of the window's list.
+void addFilter(CLI::App& command, AppsCommand& apps) {
+    using Option = FilterOption;
+    static const std::map<std::string, Option> kOptions{
+        {"all", Option::allItems}, {"themed", Option::themedItems}, {"unthemed", Option::unthemedItems}};
+    const std::vector<CLI::Option*> options{
+        command
+            .add_option("--filter", apps.filter.filterOption, "all, themed: with a custom icon, or unthemed")
+            ->transform(CLI::CheckedTransformer(kOptions)),
+        command.add_flag("--dock", apps.filter.showOnlyDockItems, "Only those in the Dock"),
+        command.add_flag("--non-squircle", apps.filter.showOnlyNonSquircle,
+                         "Only those whose own icon has another outline than the standard one"),
+        command.add_flag("--unsupported", apps.filter.showUnsupportedApps,
+                         "Also those that cannot be restyled"),
+        command.add_option("--search", apps.filter.searchText,
+                           "Only those with this text in name or identifier")};
+    command.parse_complete_callback([&apps, options] {
+        apps.isFiltered =
+            std::ranges::any_of(options, [](const CLI::Option* option) { return option->count() > 0; });
+    });
 }
 
 void addBundleID(CLI::App& command, std::string& bundleID) {
@@ -86,8 +112,12 @@ CommandLine::CommandLine()
 void CommandLine::declareLists() {
     CLI::App* command = nullptr;
     AppsCommand& apps =
-        add<AppsCommand>(m_parser, "apps", "List the applications that Launchpad shows", command);
+        add<AppsCommand>(m_parser, "apps",
+                         "List the applications that Launchpad shows: all, or with any option but --json those "
+                         "that the window's list would show, which leaves out what cannot be restyled",
+                         command);
     addJson(*command, apps.json);
+    addFilter(*command, apps);
 
     DockCommand& dock = add<DockCommand>(m_parser, "dock", "List the Dock's application tiles", command);
     addJson(*command, dock.json);

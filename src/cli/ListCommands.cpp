@@ -5,21 +5,100 @@
 #include "cli/Json.h"
 #include "cli/Staged.h"
 #include "cli/Table.h"
+#include "icons/IconShapeAnalysis.h"
+#include "icons/list/CatalogueReader.h"
+#include "icons/list/CheckedIcons.h"
+#include "icons/list/RowDescription.h"
+#include "icons/list/RowOrder.h"
+#include "platform/Mac.h"
+#include "system/Trimmed.h"
+
+#include <QObject>
+
+#include <future>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace tavrik {
 
 namespace {
 
-/// As the rows would show them, staged changes included; without those when they cannot be read.
-void addIcons(Companion& companion, std::vector<ApplicationInfo>& apps) {
-    const auto staged = lookAtStaged(companion);
+StagedChanges stagedChanges(Companion& companion) {
+    auto staged = lookAtStaged(companion);
     if (!staged)
         companion.complain(staged.error().description);
-    const StagedChanges changes = staged ? staged->changes : StagedChanges();
+    return staged ? std::move(staged->changes) : StagedChanges();
+}
+
+/// As the rows would show them, staged changes included; without those when they cannot be read.
+void addIcons(Companion& companion, std::vector<ApplicationInfo>& apps) {
+    const StagedChanges changes = stagedChanges(companion);
     companion.onMain([&] {
         for (ApplicationInfo& app : apps)
             setIconRow(app, companion.managers().pendingChanges.iconRow(app.bundleID, changes));
     });
+}
+
+/// Looks at the icons that were not looked at before, and waits for it.
+void addShapes(Companion& companion, std::vector<ApplicationRow>& rows) {
+    std::vector<MacPath> apps;
+    for (const ApplicationRow& row : rows)
+        apps.push_back(row.app.path);
+    std::unique_ptr<IconShapeAnalysis> shapes;
+    QObject context;
+    std::promise<void> finished;
+    companion.onMain([&] {
+        shapes = std::make_unique<IconShapeAnalysis>(companion.managers().icons, companion.managers().settings);
+        shapes->analyse(apps, &context, [](double) {}, [&finished] { finished.set_value(); });
+    });
+    finished.get_future().wait();
+    companion.onMain([&] {
+        for (ApplicationRow& row : rows)
+            row.isSquircle = shapes->isSquircle(row.app.path);
+        shapes.reset();
+    });
+}
+
+/// All of them; nothing when there are none.
+std::optional<std::vector<ApplicationInfo>> allApps(Companion& companion) {
+    std::vector<ApplicationInfo> apps = companion.managers().apps.loadApplications();
+    if (apps.empty())
+        return std::nullopt;
+    addIcons(companion, apps);
+    return apps;
+}
+
+/// Those that the window's list shows, as it does; nothing when Launchpad shows none at all.
+std::optional<std::vector<ApplicationInfo>> filteredApps(Companion& companion, const ListFilter& filter) {
+    Managers& managers = companion.managers();
+    managers.themes.loadThemes();
+    const CatalogueReading reading = CatalogueReader(managers.apps, managers.dock, managers.themes).readNow();
+    if (reading.apps.empty())
+        return std::nullopt;
+    const FontReplacer& fonts = managers.fonts.fontReplacer();
+    const StagedChanges staged = stagedChanges(companion);
+    std::vector<ApplicationRow> rows;
+    for (const ApplicationInfo& app : reading.apps)
+        rows.push_back(describedRow(app, reading, fonts, managers.unsupported));
+    companion.onMain([&] {
+        for (ApplicationRow& row : rows) {
+            IconRow icons = recordedIcons(row.app.bundleID, staged, managers.pendingChanges, managers.settings);
+            setIconRow(row.app, checkedIcons(companion.host().mac().files, std::move(icons),
+                                             row.app.themeIcons.size(), row.app.name)
+                                    .row);
+        }
+    });
+    if (filter.showOnlyNonSquircle)
+        addShapes(companion, rows);
+    sortRows(rows, SortOrder::ascending);
+    const RowFilter shown(filter, fonts.folded(trimmed(filter.searchText)));
+    std::vector<ApplicationInfo> apps;
+    for (ApplicationRow& row : rows) {
+        if (shown.shows(row))
+            apps.push_back(std::move(row.app));
+    }
+    return apps;
 }
 
 } // namespace
@@ -28,17 +107,23 @@ ExitCode AppsCommand::run(Companion& companion) {
     if (const ExitCode opened = companion.open(Access::reading); opened != ExitCode::done)
         return opened;
     Managers& managers = companion.managers();
-    std::vector<ApplicationInfo> apps = managers.apps.loadApplications();
-    if (apps.empty())
+    const auto apps = isFiltered ? filteredApps(companion, filter) : allApps(companion);
+    if (!apps)
         return companion.fail(kNoCatalogue);
-    addIcons(companion, apps);
     if (json) {
-        companion.say(jsonText(toJson(apps)));
+        companion.say(jsonText(toJson(*apps)));
+        return ExitCode::done;
+    }
+    if (apps->empty()) {
+        companion.say(
+            filter.showUnsupportedApps
+                ? "No application is so."
+                : "No application that can be restyled is so. \"--unsupported\" shows the others too.");
         return ExitCode::done;
     }
     const auto mappings = managers.settings.getAllMappings();
     Table table({"Name", "Identifier", "Path", "Remarks"});
-    for (const ApplicationInfo& app : apps) {
+    for (const ApplicationInfo& app : *apps) {
         std::string remarks;
         const auto remark = [&](bool holds, const char* words) {
             if (holds)

@@ -49,6 +49,33 @@ TEST_F(Commands, FurnishAndShowAMacWithRecordsByTheirFieldNamesAndLogLinesApart)
     EXPECT_GT(QImage(QString::fromStdString(red)).width(), 1000);
 }
 
+TEST_F(Commands, FilterApplicationsAsTheWindowDoes) {
+    run({"icon", "add", kAtlas, red});
+    const auto shown = [&](Arguments options) {
+        options.insert(options.begin(), "apps");
+        std::set<std::string> found;
+        for (const auto& app : json(options).array())
+            found.insert(app.toObject()[QLatin1String("bundleID")].toString().toStdString());
+        return found;
+    };
+    const auto all = shown({});
+    const auto supported = shown({"--filter", "all"});
+    EXPECT_THAT(all, AllOf(IsSupersetOf(supported), Contains(kIOSApp)));
+    EXPECT_THAT(supported, Not(Contains(kIOSApp)));
+    EXPECT_EQ(shown({"--unsupported"}), all);
+    EXPECT_THAT(shown({"--filter", "themed"}), ElementsAre(kAtlas));
+    EXPECT_EQ(shown({"--filter", "unthemed"}).size(), supported.size() - 1);
+    EXPECT_THAT(shown({"--search", " ATLÁS "}), ElementsAre(kAtlas));
+    EXPECT_THAT(shown({"--search", kIOSApp}), IsEmpty());
+    EXPECT_THAT(run({"apps", "--search", kIOSApp}).output,
+                HasSubstr("\"--unsupported\" shows the others too."));
+    EXPECT_THAT(shown({"--search", kIOSApp, "--unsupported"}), ElementsAre(kIOSApp));
+    EXPECT_THAT(shown({"--dock", "--search", "example"}), AllOf(Contains(kAtlas), SizeIs(Lt(10U))));
+    const auto otherShapes = shown({"--non-squircle"});
+    EXPECT_THAT(otherShapes, AllOf(Not(IsEmpty()), SizeIs(Lt(supported.size()))));
+    EXPECT_EQ(shown({"--non-squircle"}), otherShapes) << "what was looked at is remembered";
+}
+
 TEST_F(Commands, StageOneStyleOrPlainText) {
     const QJsonArray fonts = json({"font", "list", "--preview", "Hi 2"}).array();
     ASSERT_EQ(fonts.size(), 20);
@@ -147,6 +174,7 @@ TEST_F(Commands, RefuseInASentenceAndChangeNothing) {
     } cases[] = {
         {{}, 2, "subcommand"},
         {{"icon"}, 2, "subcommand"},
+        {{"apps", "--filter", "restyled"}, 2, "--filter"},
         {{"wrapper", "create", kAtlas}, 2, "IMAGE"},
         {{"wrapper", "create", "org.nobody.nothing", red}, 1, "shows no application with the identifier"},
         {{"wrapper", "create", kAtlas, red + ".missing"}, 1, "There is no file at"},
