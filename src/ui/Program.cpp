@@ -31,8 +31,9 @@ public:
     void orderOut() override { m_window.hide(); }
 
     void close() override {
+        // Later, since a window that is about to close takes no second request.
         m_asksFirst = false;
-        m_window.close();
+        QMetaObject::invokeMethod(&m_window, &QWindow::close, Qt::QueuedConnection);
     }
 
     QObject* object() override { return &m_window; }

@@ -4,6 +4,7 @@
 #include "platform/Threads.h"
 #include "practice/furnish/Furnish.h"
 #include "ui/AlertWindow.h"
+#include "ui/InterfaceFont.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 
@@ -36,6 +37,8 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationName(QStringLiteral("Tavrik"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TAVRIK_VERSION));
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the components bring their own looks
+
+    useInterfaceFont();
 
     WindowAlerts alerts;
     const auto host = openPracticeMac(practice::defaultRoot(), alerts);

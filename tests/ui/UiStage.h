@@ -2,6 +2,7 @@
 
 #include "app/MacHost.h"
 #include "platform/Threads.h"
+#include "platform/UserDefaults.h"
 #include "support/LogRecorder.h"
 #include "support/practice/VirtualMac.h"
 #include "ui/Program.h"
@@ -27,6 +28,7 @@ class UiStage : public testing::Test, protected VirtualMac, protected Stagehand 
 protected:
     UiStage() {
         declareMainThread();
+        makeApplication();
         complaints().clear();
         m_before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
             if (type != QtDebugMsg && type != QtInfoMsg)
@@ -43,6 +45,8 @@ protected:
     /// Opens the window, anew when it was open, and waits for the lists.
     void start() {
         program.reset();
+        if (isWelcomed)
+            ignoreFailure(mac.defaults.set("Welcomed", plist::Value(true)));
         auto opened = Program::open(host, alerts);
         ASSERT_TRUE(opened) << opened.error().description;
         program = std::move(*opened);
@@ -70,16 +74,18 @@ private:
         Mac& m_mac;
     };
 
-    struct Software {
-        Software() {
-            QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-            QQuickStyle::setStyle(QStringLiteral("Basic"));
-        }
-    };
+    /// One for all tests of a program: the clock of Qt Quick's animations does not outlive the first.
+    static void makeApplication() {
+        static int argumentCount = 0;
+        static QGuiApplication* application = nullptr;
+        if (application)
+            return;
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        application = new QGuiApplication(argumentCount, nullptr);
+        QQuickStyle::setStyle(QStringLiteral("Basic"));
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+    }
 
-    Software m_software;
-    int m_argumentCount = 0;
-    QGuiApplication m_application{m_argumentCount, nullptr};
     QtMessageHandler m_before = nullptr;
 
 protected:
@@ -89,6 +95,7 @@ protected:
               mac.defaults, mac.machine, clock,         alerts,        mac.random};
     Host host{whole};
     std::unique_ptr<Program> program;
+    bool isWelcomed = true; ///< the page of the first start was seen
 };
 
 } // namespace tavrik::test

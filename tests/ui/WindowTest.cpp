@@ -1,13 +1,73 @@
 #include "UiStage.h"
 
+#include <QTimer>
+
 namespace tavrik::test {
 
 class WindowTest : public UiStage {};
 
-TEST_F(WindowTest, OpensWithoutAComplaint) {
+TEST_F(WindowTest, TellsAtTheFirstStartAloneWhatItDoes) {
+    isWelcomed = false;
     start();
+    ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("welcome-start")) != nullptr; }));
+    press(window(), Qt::Key_Return);
+    EXPECT_TRUE(waitFor([&] { return find(QStringLiteral("welcome-start")) == nullptr; }));
+    start();
+    settled(window());
+    EXPECT_EQ(find(QStringLiteral("welcome-start")), nullptr);
+}
+
+TEST_F(WindowTest, UndoesAndDiscardsByTheKeyboard) {
+    start();
+    PendingChangesManager& pending = program->managers().pendingChanges;
+    pending.setPendingFont("Small Caps");
+    pending.setPendingReset(true);
+    press(window(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(pending.staged().pendingFont, "Small Caps");
+    press(window(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(pending.staged().pendingReset);
+    model().edits()->discard();
+    EXPECT_FALSE(pending.hasPendingChanges());
+    press(window(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(pending.staged().pendingReset);
+    EXPECT_TRUE(mac.files.exists(pending.tempFileURL()));
+}
+
+TEST_F(WindowTest, ShowsThePlanAppliesAndTellsTheResult) {
+    start();
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    const auto before = volume.launchpadItems();
+    press(window(), Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("apply-go")) != nullptr; }));
+    EXPECT_EQ(volume.launchpadItems(), before);
+    EXPECT_TRUE(model().apply()->obstacles().isEmpty());
+    EXPECT_FALSE(model().apply()->details().isEmpty());
+
+    ASSERT_TRUE(click(QStringLiteral("apply-go")));
+    ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("result-done")) != nullptr; }, 60'000));
+    EXPECT_TRUE(model().apply()->isClean()) << model().apply()->remarks().join(QLatin1Char('\n')).toStdString();
+    EXPECT_NE(volume.launchpadItems(), before);
+    press(window(), Qt::Key_Escape);
+    EXPECT_TRUE(waitFor([&] { return model().apply()->stage() == ApplyModel::Stage::Idle; }));
+    EXPECT_EQ(model().stagedCount(), 0);
+}
+
+TEST_F(WindowTest, AsksBeforeItClosesWithStagedChanges) {
+    start();
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    const auto answer = [&](int button) {
+        QTimer::singleShot(0, window(), [&, button] {
+            EXPECT_EQ(alerts.title(), QStringLiteral("You have unsaved changes"));
+            alerts.answer(button);
+        });
+        window()->close();
+    };
+    answer(0);
     EXPECT_TRUE(window()->isVisible());
-    EXPECT_FALSE(settled(window()).isNull());
+    EXPECT_TRUE(program->managers().pendingChanges.hasPendingChanges());
+    answer(1);
+    EXPECT_TRUE(waitFor([&] { return !window()->isVisible(); }));
+    EXPECT_FALSE(program->managers().pendingChanges.hasPendingChanges());
 }
 
 } // namespace tavrik::test

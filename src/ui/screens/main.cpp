@@ -1,5 +1,6 @@
 #include "app/PracticeHost.h"
 #include "platform/Threads.h"
+#include "ui/InterfaceFont.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 #include "ui/screens/Scene.h"
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
+    useInterfaceFont();
     const QString folder = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(folder);
 
@@ -83,5 +85,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     (*program)->start();
+    Stagehand::waitFor([&] { return !(*program)->delegate().isStarting(); });
+    (*program)->model().endFirstStart();
     return draw(**program, folder, argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString()) ? 0 : 1;
 }
