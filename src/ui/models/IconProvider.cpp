@@ -9,6 +9,7 @@
 #include <QQuickTextureFactory>
 
 #include <algorithm>
+#include <atomic>
 
 namespace tavrik {
 
@@ -19,6 +20,10 @@ constexpr int kDefaultSide = 128; ///< pixels
 /// A request under way. The engine deletes it, at any time after it has finished.
 class Response : public QQuickImageResponse {
 public:
+    void cancel() override { m_isWanted = false; }
+
+    bool isWanted() const { return m_isWanted; }
+
     void finish(const QImage& picture) {
         m_picture = picture;
         Q_EMIT finished();
@@ -33,6 +38,7 @@ public:
     }
 
 private:
+    std::atomic<bool> m_isWanted = true;
     QImage m_picture;
 };
 
@@ -51,7 +57,8 @@ QQuickImageResponse* IconProvider::requestImageResponse(const QString& id, const
     const int side = asked > 0 ? asked : kDefaultSide;
     auto* const response = new Response;
     // It lives until it has finished, whether or not anybody still waits for it.
-    m_queue.async([this, id, side, response] { response->finish(picture(id, side)); });
+    m_queue.async(
+        [this, id, side, response] { response->finish(response->isWanted() ? picture(id, side) : QImage()); });
     return response;
 }
 
@@ -69,11 +76,19 @@ QImage IconProvider::picture(const QString& id, int side) {
         QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString());
     const QImage scaled = fitted(parts[0] == QLatin1String("app")     ? m_icons.appIcon(path, side)
                                  : parts[0] == QLatin1String("shown") ? m_icons.shownIcon(path, side)
-                                                                      : m_cache.loadImage(path),
+                                                                      : iconFile(path, side),
                                  side);
     const std::lock_guard lock(m_lock);
     m_pictures.insert(key, new QImage(scaled), std::max<qsizetype>(1, scaled.sizeInBytes() >> 10));
     return scaled;
+}
+
+QImage IconProvider::iconFile(const MacPath& path, int side) const {
+    for (const ThumbnailSize size : {ThumbnailSize::x1, ThumbnailSize::x2}) {
+        if (side <= static_cast<int>(size))
+            return m_cache.thumbnail(path, size);
+    }
+    return m_cache.loadImage(path);
 }
 
 } // namespace tavrik

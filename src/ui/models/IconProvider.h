@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ConcurrentQueue.h"
+#include "platform/Path.h"
 
 #include <QCache>
 #include <QImage>
@@ -23,6 +24,7 @@ public:
 
 private:
     QImage picture(const QString& id, int side);
+    QImage iconFile(const MacPath& path, int side) const;
 
     IconCache& m_cache;
     const IconManager& m_icons;

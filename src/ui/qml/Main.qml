@@ -15,6 +15,12 @@ C.ApplicationWindow {
     title: qsTr("Tavrik")
     color: Style.window
     font.pixelSize: Style.bodyText
+    palette { // of tool tips and scroll bars
+        toolTipBase: Style.raised
+        toolTipText: Style.text
+        dark: Style.border
+        mid: Style.border
+    }
     LayoutMirroring.enabled: window.model.isRightToLeft
     LayoutMirroring.childrenInherit: true
 

@@ -6,6 +6,8 @@ Rectangle {
 
     required property WindowModel model
 
+    function countOf(applications) { return applications.total > 0 ? applications.total : "" }
+
     color: Style.sidebar
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Places")
@@ -31,6 +33,7 @@ Rectangle {
             width: parent.width
             text: qsTr("Your Apps")
             glyph: "apps"
+            count: sidebar.countOf(sidebar.model.applications.userApps)
             isCurrent: sidebar.model.place === WindowModel.UserApps
             onClicked: sidebar.model.place = WindowModel.UserApps
         }
@@ -38,6 +41,7 @@ Rectangle {
             width: parent.width
             text: qsTr("System Apps")
             glyph: "system"
+            count: sidebar.countOf(sidebar.model.applications.systemApps)
             isCurrent: sidebar.model.place === WindowModel.SystemApps
             onClicked: sidebar.model.place = WindowModel.SystemApps
         }

@@ -1,7 +1,10 @@
 #include "ui/screens/Stagehand.h"
 
+#include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -20,6 +23,10 @@ QQuickItem* findBelow(QQuickItem* item, const QString& name) {
             return found;
     }
     return nullptr;
+}
+
+QPointF middleOf(const QQuickItem* item) {
+    return item->mapToScene({item->width() / 2, item->height() / 2});
 }
 
 } // namespace
@@ -43,8 +50,7 @@ bool Stagehand::click(const QString& name) {
 bool Stagehand::click(QQuickItem* item) {
     if (!item->isEnabled())
         return false;
-    const QPointF middle = item->mapToScene({item->width() / 2, item->height() / 2});
-    QTest::mouseClick(item->window(), Qt::LeftButton, {}, middle.toPoint());
+    QTest::mouseClick(item->window(), Qt::LeftButton, {}, middleOf(item).toPoint());
     return true;
 }
 
@@ -55,6 +61,34 @@ void Stagehand::type(QQuickWindow* window, const QString& text) {
 
 void Stagehand::press(QQuickWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(window, key, modifiers);
+}
+
+void Stagehand::hover(QQuickItem* item) {
+    QTest::mouseMove(item->window(), middleOf(item).toPoint());
+}
+
+void Stagehand::pointAway(QQuickWindow* window) {
+    QTest::mouseMove(window, {1, window->height() - 1});
+}
+
+bool Stagehand::dragOnto(QQuickItem* item, const QMimeData& data) {
+    const QPoint middle = middleOf(item).toPoint();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &enter);
+    QDragMoveEvent move(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &move);
+    return enter.isAccepted() && move.isAccepted();
+}
+
+bool Stagehand::letGo(QQuickItem* item, const QMimeData& data) {
+    QDropEvent drop(middleOf(item), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &drop);
+    return drop.isAccepted();
+}
+
+void Stagehand::dragAway(QQuickItem* item) {
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(item->window(), &leave);
 }
 
 bool Stagehand::waitFor(const std::function<bool()>& holds, int limit) {

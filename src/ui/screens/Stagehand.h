@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QMimeData;
 class QQuickItem;
 class QQuickWindow;
 
@@ -24,6 +25,17 @@ public:
 
     static void type(QQuickWindow* window, const QString& text);
     static void press(QQuickWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    /// Moves the pointer onto the middle of an item.
+    static void hover(QQuickItem* item);
+    /// Moves it to where nothing is.
+    static void pointAway(QQuickWindow* window);
+
+    /// Holds dragged data over the middle of an item, lets it go there, or takes it elsewhere again. False when
+    /// the item does not take it.
+    static bool dragOnto(QQuickItem* item, const QMimeData& data);
+    static bool letGo(QQuickItem* item, const QMimeData& data);
+    static void dragAway(QQuickItem* item);
 
     /// Lets the window live until this holds. False after so many milliseconds.
     static bool waitFor(const std::function<bool()>& holds, int limit = 10'000);
