@@ -4,6 +4,7 @@
 #include "changes/apply/ApplyServices.h"
 #include "icons/IconStore.h"
 #include "icons/IconSweep.h"
+#include "maintenance/InstalledBundles.h"
 #include "maintenance/MissingVolume.h"
 #include "model/SettingsManager.h"
 #include "model/catalogue/AppManager.h"
@@ -83,6 +84,7 @@ std::optional<BundleIDs> inUse(const ApplyServices& with) {
     for (const ApplicationInfo& app : apps)
         bundleIDs->insert(app.bundleID);
     bundleIDs->merge(withStagedIcons(with.pendingChanges));
+    bundleIDs->merge(installedBundles(with.mac));
     return bundleIDs;
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/SettingsManager.h"
 #include "model/UnsupportedAppsManager.h"
+#include "platform/AppFolders.h"
 #include "platform/Bookmarks.h"
 #include "platform/FileManager.h"
 #include "platform/Log.h"
@@ -258,9 +259,7 @@ std::optional<MacPath> DatabaseManager::resolveBookmarkPath(ByteView bookmark) c
 
 std::optional<MacPath> DatabaseManager::originalAppPath(const MacPath& forWrapperPath) const {
     const std::string name = forWrapperPath.stem() + ".app";
-    for (const MacPath& folder :
-         {MacPath("/Applications"), MacPath("/Applications/Utilities"), MacPath("/System/Applications"),
-          MacPath("/System/Applications/Utilities"), m_home / "Applications"}) {
+    for (const MacPath& folder : standardAppFolders(m_home)) {
         if (m_mac.files.exists(folder / name))
             return folder / name;
     }

@@ -6,6 +6,7 @@
 #include "app/SharedCoordinators.h"
 #include "model/SupportFolderLock.h"
 #include "platform/Result.h"
+#include "ui/EnglishPlurals.h"
 #include "ui/models/Background.h"
 #include "ui/models/Images.h"
 #include "ui/models/Notices.h"
@@ -67,6 +68,7 @@ private:
     Managers m_managers;
     SharedCoordinators m_coordinators;
     AppDelegate m_delegate;
+    EnglishPlurals m_plurals;
     Images m_images;
     Notices m_notices;
     Background m_background{m_delegate};
