@@ -43,8 +43,8 @@ ApplicationsCoordinator::~ApplicationsCoordinator() {
 }
 
 const ApplicationRow* ApplicationsCoordinator::find(const std::string& bundleID) const {
-    const auto found =
-        std::ranges::find(m_applications, bundleID, [](const ApplicationRow& row) { return row.app.bundleID; });
+    const auto found = std::ranges::find_if(
+        m_applications, [&](const ApplicationRow& row) { return row.app.bundleID == bundleID; });
     return found == m_applications.end() ? nullptr : &*found;
 }
 

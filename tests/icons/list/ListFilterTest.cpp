@@ -1,29 +1,18 @@
 #include "icons/list/ListFilter.h"
 
-#include "icons/list/FilterSettingsManager.h"
 #include "icons/list/RowOrder.h"
-#include "platform/NotificationCenter.h"
 
 #include <QLocale>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace tavrik::test {
 namespace {
 
-using testing::ElementsAre;
-
-ApplicationRow rowNamed(const std::string& name, const std::string& identifier) {
-    ApplicationRow row;
-    row.plainName = name;
-    row.app.bundleID = identifier;
-    return row;
-}
-
 TEST(ListFilter, ShowsTheRowsThatMeetEveryCondition) {
-    ApplicationRow plain = rowNamed("Plain", "org.example.plain");
+    ApplicationRow plain;
     plain.foldedName = "plain";
-    plain.foldedBundleID = "org.example.plain";
+    plain.foldedBundleID = "org.example.id";
     ApplicationRow themed = plain;
     themed.app.selectedIconIndex = 0;
     themed.isInDock = true;
@@ -31,74 +20,43 @@ TEST(ListFilter, ShowsTheRowsThatMeetEveryCondition) {
     ApplicationRow refused = plain;
     refused.refusal = "It cannot be restyled.";
     refused.isSquircle = true;
-    const std::vector<ApplicationRow> rows{plain, themed, refused};
 
-    const auto shown = [&](const ListFilter& filter, const std::string& text = "") {
-        std::string letters;
-        for (std::size_t row = 0; row < rows.size(); ++row)
-            letters += RowFilter(filter, text).shows(rows[row]) ? "ptr"[row] : '-';
-        return letters;
+    const auto shown = [&](const ListFilter& filter, const char* text) {
+        const RowFilter ready(filter, text);
+        std::string found;
+        for (const ApplicationRow* row : {&plain, &themed, &refused})
+            found += ready.shows(*row) ? (row == &plain ? 'p' : row == &themed ? 't' : 'r') : '-';
+        return found;
     };
-    const auto with = [](auto change) {
-        ListFilter filter{.showUnsupportedApps = true, .searchText = ""};
-        change(filter);
-        return filter;
-    };
-    EXPECT_EQ(shown({.searchText = ""}), "pt-");
-    EXPECT_EQ(shown(with([](ListFilter&) {})), "ptr");
-    EXPECT_EQ(shown(with([](ListFilter& f) { f.filterOption = FilterOption::themedItems; })), "-t-");
-    EXPECT_EQ(shown(with([](ListFilter& f) { f.filterOption = FilterOption::unthemedItems; })), "p-r");
-    EXPECT_EQ(shown(with([](ListFilter& f) { f.showOnlyDockItems = true; })), "-t-");
-    EXPECT_EQ(shown(with([](ListFilter& f) { f.showOnlyNonSquircle = true; })), "-t-")
-        << "a shape that is not known passes for the standard one";
-    EXPECT_EQ(shown(with([](ListFilter&) {}), "lai"), "ptr");
-    EXPECT_EQ(shown(with([](ListFilter&) {}), "example.pl"), "ptr");
-    EXPECT_EQ(shown(with([](ListFilter&) {}), "other"), "---");
+    using enum FilterOption;
+    EXPECT_EQ(shown({allItems, false, false, false, {}}, ""), "pt-");
+    EXPECT_EQ(shown({allItems, false, false, true, {}}, ""), "ptr");
+    EXPECT_EQ(shown({themedItems, false, false, true, {}}, ""), "-t-");
+    EXPECT_EQ(shown({unthemedItems, false, false, true, {}}, ""), "p-r");
+    EXPECT_EQ(shown({allItems, true, false, true, {}}, ""), "-t-");
+    EXPECT_EQ(shown({allItems, false, true, true, {}}, ""), "-t-") << "unknown shapes pass for standard ones";
+    EXPECT_EQ(shown({unthemedItems, false, false, false, {}}, "ple.i"), "p--");
+    EXPECT_EQ(shown({allItems, false, false, true, {}}, "x y"), "---");
 }
 
 TEST(RowOrder, IsTheLanguagesAndKeepsRowsOfOneNameByTheirIdentifiers) {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
-    std::vector<ApplicationRow> rows{rowNamed("Zebra", "e"), rowNamed("öl", "d"), rowNamed("Atlas", "c"),
-                                     rowNamed("Atlas", "b"), rowNamed("Ofen", "a")};
-    const auto identifiers = [&] {
+    std::vector<ApplicationRow> rows(5);
+    const char* const names[] = {"Zebra", "öl", "Atlas", "Atlas", "Ofen"};
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        rows[row].plainName = names[row];
+        rows[row].app.bundleID = "edcba"[row];
+    }
+    for (const auto& [order, expected] :
+         {std::pair{SortOrder::ascending, "bcade"}, {SortOrder::descending, "edabc"}}) {
+        sortRows(rows, order);
         std::string letters;
         for (const ApplicationRow& row : rows)
             letters += row.app.bundleID;
-        return letters;
-    };
-    sortRows(rows, SortOrder::ascending);
-    EXPECT_EQ(identifiers(), "bcade");
-    sortRows(rows, SortOrder::descending);
-    EXPECT_EQ(identifiers(), "edabc");
+        EXPECT_EQ(letters, expected);
+    }
     QLocale::setDefault(before);
-}
-
-TEST(FilterSettings, CountRunsThatOverlapTogether) {
-    NotificationCenter notifications;
-    FilterSettingsManager filters(notifications);
-    int posts = 0;
-    const auto observation = notifications.observe(std::string(kFilterSettingsUpdated), [&] { ++posts; });
-
-    const int first = filters.beginIconAnalysis(300);
-    filters.advanceIconAnalysis(first, 0.5);
-    EXPECT_DOUBLE_EQ(filters.analysisProgress(), 0.5);
-    const int second = filters.beginIconAnalysis(100);
-    filters.endIconAnalysis(first);
-    EXPECT_DOUBLE_EQ(filters.analysisProgress(), 0.75);
-    EXPECT_TRUE(filters.isIconAnalysisInProgress());
-    filters.advanceIconAnalysis(second, 0.5);
-    EXPECT_DOUBLE_EQ(filters.analysisProgress(), 0.875);
-    filters.endIconAnalysis(second);
-    EXPECT_FALSE(filters.isIconAnalysisInProgress());
-
-    filters.beginIconAnalysis(10);
-    EXPECT_DOUBLE_EQ(filters.analysisProgress(), 0);
-    EXPECT_EQ(posts, 7);
-
-    filters.setSearchText("atlas");
-    filters.setSearchText("atlas");
-    EXPECT_EQ(posts, 8) << "what does not change is not told";
 }
 
 } // namespace

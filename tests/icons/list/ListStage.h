@@ -34,9 +34,9 @@ protected:
 
     ApplicationsCoordinator& list() { return lists->userApps; }
 
-    PendingChangesManager& pending() { return program.pendingChanges; }
-
     const ApplicationRow& row(const std::string& bundleID = kAtlas) { return *list().find(bundleID); }
+
+    PendingChangesManager& pending() { return program.pendingChanges; }
 
     /// Runs the main thread until it holds; false after ten seconds.
     template<typename Predicate>
@@ -80,11 +80,12 @@ protected:
 
     static std::string themeOf(const MacPath& icon) { return icon.parent().parent().name(); }
 
-    std::vector<std::string> identifiers(const std::vector<ApplicationRow>& rows) {
-        std::vector<std::string> found;
-        std::ranges::transform(rows, std::back_inserter(found),
-                               [](const ApplicationRow& each) { return each.app.bundleID; });
-        return found;
+    /// With blanks between them.
+    static std::string identifiers(const std::vector<ApplicationRow>& rows) {
+        std::string text;
+        for (const ApplicationRow& each : rows)
+            text += (text.empty() ? "" : " ") + each.app.bundleID;
+        return text;
     }
 
     static QImage picture(int number) {
