@@ -2,6 +2,7 @@
 
 #include "app/Managers.h"
 #include "ui/models/Background.h"
+#include "ui/models/LackingLetters.h"
 #include "ui/models/Text.h"
 
 #include <algorithm>
@@ -20,21 +21,10 @@ QString examples(const std::vector<std::string>& names) {
     return all.size() > kExamples ? FontsPage::tr("%1 …").arg(first) : first;
 }
 
-/// Names that every style lacks letters for.
-std::vector<std::string> lackingInAll(const std::vector<LackingLetters>& styles) {
-    std::vector<std::string> names = styles.empty() ? std::vector<std::string>() : styles.front().names;
-    std::erase_if(names, [&](const std::string& name) {
-        return !std::ranges::all_of(styles, [&](const LackingLetters& style) {
-            return std::ranges::find(style.names, name) != style.names.end();
-        });
-    });
-    return names;
-}
-
 } // namespace
 
 FontsPage::FontsPage(const UiServices& with) : m_with(with) {
-    m_lacking.resize(with.managers.fonts.fontReplacer().allFontMaps().size());
+    noteLacks({});
     m_observations.push_back(
         with.managers.notificationCenter.observe(std::string(kPendingChangesUpdated), [this] { show(); }));
     for (const std::string_view name : {kReloadApplicationsAfterApply, kReloadApplicationsAfterBackupRestore}) {
@@ -66,9 +56,13 @@ QString FontsPage::state() const {
 QString FontsPage::lackOfAll() const {
     if (m_lackingInAll.empty())
         return {};
-    return tr("%n of your names have letters that no style has: %1", nullptr,
+    return tr("%n of your names have characters no style has: %1", nullptr,
               static_cast<int>(m_lackingInAll.size()))
         .arg(examples(m_lackingInAll));
+}
+
+bool FontsPage::hasLacks() const {
+    return !std::ranges::all_of(m_lacking, [](const auto& names) { return names.empty(); });
 }
 
 bool FontsPage::isStaged() const {
@@ -92,10 +86,7 @@ void FontsPage::refresh() {
             m_names = std::move(names);
             std::vector<std::string> all = m_names.apps;
             all.insert(all.end(), m_names.folders.begin(), m_names.folders.end());
-            const auto& styles = m_with.managers.fonts.fontReplacer().allFontMaps();
-            std::ranges::transform(styles, m_lacking.begin(),
-                                   [&](const auto& style) { return lackingLetters(all, style); });
-            m_lackingInAll = lackingInAll(m_lacking);
+            noteLacks(all);
             show();
         });
 }
@@ -130,7 +121,7 @@ void FontsPage::show() {
         styles.push_back({.name = toQString(maps[i].name),
                           .sample = sampleIn(maps[i].name),
                           .lack = lackOf(m_lacking[i]),
-                          .lacks = toQStrings(m_lacking[i].names),
+                          .lacks = toQStrings(m_lacking[i]),
                           .isCurrent = changes.activeFont() == maps[i].name,
                           .isStaged = changes.staged().pendingFont == maps[i].name});
     }
@@ -148,14 +139,30 @@ QString FontsPage::sampleIn(const std::string& style) const {
     return names.join(QStringLiteral("   "));
 }
 
-QString FontsPage::lackOf(const LackingLetters& lacking) const {
-    const auto count = static_cast<int>(lacking.names.size());
-    if (lacking.names.size() == m_lackingInAll.size())
-        return {};
-    return (lacking.onlyDigits
-                ? tr("No digits for %n of your names: %1", nullptr, count)
-                : tr("%n of your names have letters or digits this style lacks: %1", nullptr, count))
-        .arg(examples(lacking.names));
+void FontsPage::noteLacks(const std::vector<std::string>& names) {
+    const auto& styles = m_with.managers.fonts.fontReplacer().allFontMaps();
+    m_lackingInAll.clear();
+    m_lacking.assign(styles.size(), {});
+    for (const std::string& name : names) {
+        std::vector<std::size_t> lacking;
+        for (std::size_t i = 0; i < styles.size(); ++i) {
+            if (isLackingLetters(name, styles[i]))
+                lacking.push_back(i);
+        }
+        if (lacking.size() == styles.size()) {
+            m_lackingInAll.push_back(name);
+            continue;
+        }
+        for (const std::size_t i : lacking)
+            m_lacking[i].push_back(name);
+    }
+}
+
+QString FontsPage::lackOf(const std::vector<std::string>& names) {
+    return names.empty() ? QString()
+                         : tr("%n of your names have characters this style lacks: %1", nullptr,
+                              static_cast<int>(names.size()))
+                               .arg(examples(names));
 }
 
 } // namespace tavrik

@@ -2,7 +2,6 @@
 
 #include "platform/NotificationCenter.h"
 #include "ui/models/FontStylesModel.h"
-#include "ui/models/LackingLetters.h"
 #include "ui/models/UiServices.h"
 #include "ui/models/UserNames.h"
 
@@ -10,6 +9,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <string>
 #include <vector>
 
 namespace tavrik {
@@ -26,6 +26,8 @@ class FontsPage : public QObject {
     Q_PROPERTY(QString state READ state NOTIFY changed)
     /// What no style can write, in a sentence; empty when there is nothing.
     Q_PROPERTY(QString lackOfAll READ lackOfAll NOTIFY changed)
+    /// Some style cannot write what another one can.
+    Q_PROPERTY(bool hasLacks READ hasLacks NOTIFY changed)
     Q_PROPERTY(bool isStaged READ isStaged NOTIFY changed)
     Q_PROPERTY(bool isResetStaged READ isResetStaged NOTIFY changed)
     Q_PROPERTY(bool canReset READ canReset NOTIFY changed)
@@ -40,6 +42,7 @@ public:
     void setSample(const QString& sample);
     QString state() const;
     QString lackOfAll() const;
+    bool hasLacks() const;
     bool isStaged() const;
     bool isResetStaged() const;
     bool canReset() const;
@@ -61,14 +64,15 @@ Q_SIGNALS:
 private:
     void show();
     QString sampleIn(const std::string& style) const;
-    QString lackOf(const LackingLetters& lacking) const;
+    void noteLacks(const std::vector<std::string>& names);
+    static QString lackOf(const std::vector<std::string>& names);
 
     const UiServices m_with;
     FontStylesModel m_styles;
     QString m_sample;
     UserNames m_names;
-    std::vector<LackingLetters> m_lacking;   ///< beside the styles
-    std::vector<std::string> m_lackingInAll; ///< names with letters that no style has
+    std::vector<std::string> m_lackingInAll;         ///< names with characters that no style has
+    std::vector<std::vector<std::string>> m_lacking; ///< the others, beside the styles that lack some
     std::vector<NotificationCenter::Observation> m_observations;
 };
 

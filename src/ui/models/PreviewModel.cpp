@@ -15,25 +15,19 @@ PreviewModel::PreviewModel(const UiServices& with)
       m_folder(with.images) {
     for (const std::string_view name : {kPendingChangesUpdated, kReloadApplicationsAfterApply,
                                         kReloadApplicationsAfterBackupRestore, kBlockingStateChanged}) {
-        m_observations.push_back(with.managers.notificationCenter.observe(std::string(name), [this] {
-            m_isStale = true;
-            read();
-        }));
+        m_observations.push_back(
+            with.managers.notificationCenter.observe(std::string(name), [this] { noteChange(); }));
     }
-    connect(&with.images, &Images::revisionChanged, this, [this] {
-        m_pages.renewIcons();
-        m_tiles.renewIcons();
-        m_folder.renewIcons();
-    });
+    // Which files there are now is known after a reading.
+    connect(&with.images, &Images::revisionChanged, this, [this] { noteChange(); });
 }
 
 void PreviewModel::setShown(bool shown) {
     if (shown == m_isShown)
         return;
     m_isShown = shown;
-    m_isStale = m_isStale || shown; // the Dock may have written meanwhile
-    read();
     Q_EMIT isShownChanged();
+    noteChange(); // the Dock may have written meanwhile
 }
 
 int PreviewModel::changeCount() const {
@@ -70,6 +64,11 @@ void PreviewModel::openFolder(const QString& key) {
 void PreviewModel::closeFolder() {
     m_folderKey.clear();
     Q_EMIT changed(); // the items stay while the folder fades
+}
+
+void PreviewModel::noteChange() {
+    m_isStale = true;
+    read();
 }
 
 void PreviewModel::read() {
@@ -109,6 +108,12 @@ void PreviewModel::show() {
     }
     m_pages.show(pages);
     m_tiles.show(m_scene.tiles);
+    if (m_revision != m_with.images.revision()) {
+        m_revision = m_with.images.revision();
+        m_pages.renewIcons();
+        m_tiles.renewIcons();
+        m_folder.renewIcons();
+    }
     Q_EMIT changed();
 }
 

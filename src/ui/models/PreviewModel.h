@@ -54,6 +54,9 @@ public:
 
     bool isLoaded() const { return m_isLoaded; }
 
+    /// Nothing has happened that is not shown yet.
+    bool isCurrent() const { return !m_isReading && !m_isStale; }
+
     const QString& error() const { return m_error; }
 
     int changeCount() const;
@@ -78,6 +81,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void noteChange();
     void read();
     void show();
     const PreviewItem* openItem() const;
@@ -89,6 +93,7 @@ private:
     PreviewScene m_scene;
     QString m_error;
     std::string m_folderKey;
+    int m_revision = 0; ///< of the pictures that are shown
     bool m_isShown = false;
     bool m_isLoaded = false;
     bool m_onlyChangedPages = false;

@@ -10,7 +10,6 @@ namespace {
 
 QQuickWindow* showFonts(Program& program) {
     Stagehand::waitFor([&] { return !program.delegate().isStarting(); });
-    Stagehand::click(QStringLiteral("welcome-start"));
     program.model().setShowsPreview(false);
     program.model().setPlace(WindowModel::Place::Fonts);
     FontsPage& fonts = *program.model().fonts();

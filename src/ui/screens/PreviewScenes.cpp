@@ -48,7 +48,6 @@ void stageIcons(Program& program, std::size_t count) {
 
 QQuickWindow* showPreview(Program& program) {
     Stagehand::waitFor([&] { return !program.delegate().isStarting(); });
-    Stagehand::click(QStringLiteral("welcome-start"));
     program.model().setShowsPreview(true);
     Stagehand::waitFor([&] { return program.model().preview()->isLoaded(); });
     return program.mainWindow();

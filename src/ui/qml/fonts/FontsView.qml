@@ -41,7 +41,7 @@ Item {
         anchors.topMargin: Style.margin
         anchors.bottom: parent.bottom
         cellWidth: Math.floor(width / columns)
-        cellHeight: 108
+        cellHeight: view.model.fonts.hasLacks ? 108 : 92
         bottomMargin: Style.margin
         clip: true
         boundsBehavior: Flickable.StopAtBounds

@@ -7,7 +7,7 @@ Item {
 
     required property PreviewItemsModel items
     property bool isAfter: true
-    readonly property int rows: Math.max(5, Math.ceil(items.count / 7))
+    readonly property int rows: Math.max(5, Math.ceil((items ? items.count : 0) / 7))
     readonly property real cellWidth: width / 7
     readonly property real cellHeight: height / rows
     readonly property real titleSize: Math.max(8, Math.min(13, cellWidth * 0.13))

@@ -71,8 +71,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: dock.top
         anchors.bottomMargin: 8
-        opacity: screen.hasDots ? 1 : 0
-        enabled: screen.hasDots
+        visible: screen.hasDots && count > 1
         count: screen.preview.pages.count
         current: screen.page
         onChosen: page => screen.pageChosen(page)

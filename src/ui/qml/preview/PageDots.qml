@@ -12,7 +12,7 @@ Rectangle {
     signal chosen(int page)
 
     implicitWidth: row.width + 12
-    implicitHeight: row.height
+    implicitHeight: 20
     visible: count > 1
     radius: height / 2
     color: "transparent"
@@ -34,7 +34,7 @@ Rectangle {
 
                 objectName: "pageDot" + index
                 implicitWidth: 18
-                implicitHeight: 20
+                implicitHeight: dots.implicitHeight
                 focusPolicy: Qt.NoFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: qsTr("Page %1").arg(index + 1)
