@@ -31,11 +31,10 @@ Status createPlainFolder(FileManager& files, const MacPath& root, const MacPath&
     if (Status created = files.createFolder(folder); !created)
         return created;
     // Each new folder is an entry of the one above it.
-    for (MacPath above = folder.parent(); above.isInside(present); above = above.parent()) {
-        if (Status flushed = files.flush(above); !flushed)
+    for (MacPath above = folder.parent();; above = above.parent()) {
+        if (Status flushed = files.flush(above); !flushed || above == present)
             return flushed;
     }
-    return Done{};
 }
 
 } // namespace tavrik

@@ -22,7 +22,7 @@ TEST(CheckedIcons, AreWithoutWhatIsWrongAndItIsSaid) {
     SmallMac small;
     ASSERT_TRUE(small.files.createFolder(MacPath("/Support")));
     for (const auto& present : {icons(kPermanent, {0, 1, 2}), icons(kPending, {3, 4})}) {
-        ASSERT_TRUE(createPlainFolder(small.files, MacPath("/Support"), present.front().parent()));
+        ASSERT_TRUE(createPlainFolder(small.files, MacPath("/"), present.front().parent()));
         for (const MacPath& path : present)
             ASSERT_TRUE(small.files.create(path, bytesOf("icon")));
     }
