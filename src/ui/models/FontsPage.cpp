@@ -56,8 +56,7 @@ QString FontsPage::state() const {
 QString FontsPage::lackOfAll() const {
     if (m_lackingInAll.empty())
         return {};
-    return tr("%n of your names have characters no style has: %1", nullptr,
-              static_cast<int>(m_lackingInAll.size()))
+    return tr("%n name(s) with characters no style has: %1", nullptr, static_cast<int>(m_lackingInAll.size()))
         .arg(examples(m_lackingInAll));
 }
 
@@ -159,10 +158,10 @@ void FontsPage::noteLacks(const std::vector<std::string>& names) {
 }
 
 QString FontsPage::lackOf(const std::vector<std::string>& names) {
-    return names.empty() ? QString()
-                         : tr("%n of your names have characters this style lacks: %1", nullptr,
-                              static_cast<int>(names.size()))
-                               .arg(examples(names));
+    return names.empty()
+               ? QString()
+               : tr("%n name(s) with characters this style lacks: %1", nullptr, static_cast<int>(names.size()))
+                     .arg(examples(names));
 }
 
 } // namespace tavrik

@@ -6,6 +6,8 @@
 #include "ui/models/Images.h"
 #include "ui/models/Text.h"
 
+#include <algorithm>
+
 namespace tavrik {
 
 PreviewModel::PreviewModel(const UiServices& with)

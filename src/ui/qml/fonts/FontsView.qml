@@ -30,7 +30,7 @@ Item {
     GridView {
         id: grid
 
-        readonly property int columns: Math.max(1, Math.floor(width / 360))
+        readonly property int columns: Math.max(1, Math.floor(width / 300))
 
         objectName: "fontStyles"
         anchors.left: parent.left

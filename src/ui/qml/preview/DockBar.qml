@@ -8,7 +8,8 @@ Rectangle {
     required property PreviewItemsModel tiles
     property bool isAfter: true
     property real room: 600 ///< the width that it may take
-    readonly property real side: Math.max(10, Math.min(52, (room - 24) / Math.max(1, tiles.count) - 4))
+    property real tallest: 52 ///< of an icon
+    readonly property real side: Math.floor(Math.max(10, Math.min(tallest, (room - 24) / Math.max(1, tiles.count) - 4)))
 
     width: row.width + 16
     height: side + 14

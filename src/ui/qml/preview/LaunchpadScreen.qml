@@ -85,6 +85,7 @@ Item {
         tiles: screen.preview.tiles
         isAfter: screen.isAfter
         room: screen.width - 24
+        tallest: Math.min(52, screen.height * 0.085)
     }
     FolderPanel {
         anchors.fill: pages

@@ -12,6 +12,7 @@ FocusScope {
     property real share: 0.5
     property int page: 0
     property real position: 0
+    readonly property int forwards: LayoutMirroring.enabled ? -1 : 1 ///< of pages, to the right
     readonly property int lastPage: Math.max(0, preview.pages.count - 1)
 
     function turnTo(page: int) {
@@ -24,8 +25,8 @@ FocusScope {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Launchpad and Dock, now and after applying")
     onLastPageChanged: if (page > lastPage) turnTo(lastPage)
-    Keys.onLeftPressed: turnTo(page - (LayoutMirroring.enabled ? -1 : 1))
-    Keys.onRightPressed: turnTo(page + (LayoutMirroring.enabled ? -1 : 1))
+    Keys.onLeftPressed: turnTo(page - forwards)
+    Keys.onRightPressed: turnTo(page + forwards)
     Keys.onEscapePressed: event => {
         event.accepted = preview.isFolderOpen
         preview.closeFolder()
@@ -127,7 +128,7 @@ FocusScope {
         enabled: !comparison.preview.isFolderOpen
         onActiveTranslationChanged: {
             if (active)
-                comparison.position = comparison.page - activeTranslation.x / after.width
+                comparison.position = comparison.page - comparison.forwards * activeTranslation.x / after.width
         }
         onActiveChanged: {
             if (active) {
@@ -148,7 +149,7 @@ FocusScope {
             collected += event.angleDelta.x
             if (Math.abs(collected) < 120)
                 return
-            comparison.turnTo(comparison.page + (collected < 0 ? 1 : -1))
+            comparison.turnTo(comparison.page + (collected < 0 ? 1 : -1) * comparison.forwards)
             collected = 0
         }
     }
