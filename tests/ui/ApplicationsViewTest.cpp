@@ -43,16 +43,6 @@ protected:
         return role(name, ApplicationsModel::displayIcons).toStringList();
     }
 
-    static QQuickItem* below(QQuickItem* item, const QString& name) {
-        if (item->isVisible() && item->objectName() == name)
-            return item;
-        for (QQuickItem* const child : item->childItems()) {
-            if (QQuickItem* const found = below(child, name))
-                return found;
-        }
-        return nullptr;
-    }
-
     QQuickItem* rowInSight(const QString& name) {
         for (QQuickItem* const item : list->property("contentItem").value<QQuickItem*>()->childItems()) {
             if (item->isVisible() && item->property("name").toString() == name)
@@ -67,7 +57,7 @@ protected:
     }
 
     /// Null when the row has none of this name in sight.
-    QQuickItem* inRow(const QString& name, const QString& item) { return below(row(name), item); }
+    QQuickItem* inRow(const QString& name, const QString& item) { return findIn(row(name), item); }
 
     /// Waits for it.
     QQuickItem* itemOf(const QString& name, const QString& item) {

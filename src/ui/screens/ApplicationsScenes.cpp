@@ -131,7 +131,9 @@ std::vector<Scene> applicationsScenes() {
     return {
         scene("applications", [](Program&) {}),
         scene("applications-hover",
-              [](Program&) { Stagehand::hover(Stagehand::find(QStringLiteral("tile1"))); }),
+              [](Program&) { Stagehand::hover(Stagehand::findIn(rowAt(1), QStringLiteral("tile1"))); }),
+        scene("applications-tip",
+              [](Program&) { Stagehand::hover(Stagehand::findIn(rowAt(2), QStringLiteral("tile2"))); }),
         scene("applications-drop",
               [desk](Program&) { drag(4, {(*desk)["Harbour.png"], (*desk)["Dawn.png"]}); }),
         scene("applications-refused-drop", [desk](Program&) { drag(2, {(*desk)["Shopping.txt"]}); }),

@@ -13,18 +13,6 @@ namespace tavrik {
 
 namespace {
 
-QQuickItem* findBelow(QQuickItem* item, const QString& name) {
-    if (!item->isVisible())
-        return nullptr;
-    if (item->objectName() == name)
-        return item;
-    for (QQuickItem* const child : item->childItems()) {
-        if (QQuickItem* const found = findBelow(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 QPointF middleOf(const QQuickItem* item) {
     return item->mapToScene({item->width() / 2, item->height() / 2});
 }
@@ -36,7 +24,19 @@ QQuickItem* Stagehand::find(const QString& name) {
         const auto* const quick = qobject_cast<QQuickWindow*>(window);
         if (!quick || !quick->isVisible())
             continue;
-        if (QQuickItem* const found = findBelow(quick->contentItem(), name))
+        if (QQuickItem* const found = findIn(quick->contentItem(), name))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem* Stagehand::findIn(QQuickItem* item, const QString& name) {
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    for (QQuickItem* const child : item->childItems()) {
+        if (QQuickItem* const found = findIn(child, name))
             return found;
     }
     return nullptr;

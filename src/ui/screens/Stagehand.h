@@ -18,6 +18,8 @@ class Stagehand {
 public:
     /// The first visible item of this name in any window, popups included; null when there is none.
     static QQuickItem* find(const QString& name);
+    /// The same for the item itself and what is below it.
+    static QQuickItem* findIn(QQuickItem* item, const QString& name);
 
     /// Clicks into the middle of an item. False when there is none, or it is disabled.
     static bool click(const QString& name);

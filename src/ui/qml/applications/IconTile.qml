@@ -24,7 +24,7 @@ Item {
     signal removed()
 
     objectName: "tile" + index
-    width: frame.width + 4 + (beginsThemes ? 17 : 0)
+    width: frame.width + 4 + (beginsThemes ? 20 : 0)
     Accessible.role: kind === IconStrip.Add ? Accessible.Button : Accessible.RadioButton
     Accessible.name: label
     Accessible.checked: isChosen
