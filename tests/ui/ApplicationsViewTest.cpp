@@ -231,6 +231,9 @@ TEST_F(ApplicationsViewTest, SearchesAndFiltersByKeyboardAndSaysWhenNothingIsFou
     EXPECT_TRUE(row(beacon));
     type(window(), QStringLiteral("zzz"));
     EXPECT_TRUE(find(QStringLiteral("noMatch")));
+    page().clearFilters();
+    EXPECT_EQ(find(QStringLiteral("appSearch"))->property("text").toString().toStdString(), "");
+    type(window(), QStringLiteral("q"));
     press(window(), Qt::Key_Escape);
     EXPECT_EQ(apps().shownCount(), all);
 

@@ -33,6 +33,7 @@ ListScroller {
     }
 
     function askForPictures() {
+        forceActiveFocus(Qt.ShortcutFocusReason) // so that the row which is meant can be told
         if (currentRow && !currentRow.refusal)
             pictureAsked(currentRow.bundleID)
         else if (currentRow)

@@ -5,15 +5,18 @@ import Tavrik
 Popover {
     id: popover
 
+    property bool isMirrored: false
+
     function show(reason, below) {
         sentence.text = reason
         parent = below
+        isMirrored = below.LayoutMirroring.enabled
         open()
     }
 
     objectName: "whyNotPopover"
     name: qsTr("Why not?")
-    x: parent ? parent.width - width : 0
+    x: parent && !isMirrored ? parent.width - width : 0
     contentWidth: 320
     contentHeight: row.implicitHeight
 
