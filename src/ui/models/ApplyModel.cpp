@@ -62,10 +62,17 @@ QStringList summaryOf(const ApplyPlan& plan, const std::map<std::string, QString
     add(plan.removed, ApplyModel::tr("Back to their own look: %1."));
     if (plan.changesTitles)
         lines.append(ApplyModel::tr("Names are written anew, in Launchpad and the Dock."));
-    lines.append(plan.dockRestarts() == 0
-                     ? ApplyModel::tr("The Dock is not restarted.")
-                     : ApplyModel::tr("The Dock restarts %n time(s); it vanishes for a moment each time.",
-                                      nullptr, plan.dockRestarts()));
+    switch (plan.dockRestarts()) {
+    case 0:
+        lines.append(ApplyModel::tr("The Dock is not restarted."));
+        break;
+    case 1:
+        lines.append(ApplyModel::tr("The Dock restarts once, and vanishes for a moment."));
+        break;
+    default:
+        lines.append(ApplyModel::tr("The Dock restarts %n time(s), and vanishes for a moment each time.",
+                                    nullptr, plan.dockRestarts()));
+    }
     lines.append(ApplyModel::tr("A backup is made before anything changes."));
     lines.append(durationText(secondsOf(plan)));
     return lines;

@@ -5,54 +5,87 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QThread>
 
-#include <algorithm>
+#include <future>
+#include <memory>
 
 namespace tavrik {
 
-struct WindowAlerts::Question {
-    const Alert& alert;
-    std::size_t answer;
-    QEventLoop loop{};
-};
+WindowAlerts::WindowAlerts() {
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+                     &WindowAlerts::answerAll);
+}
+
+WindowAlerts::~WindowAlerts() {
+    answerAll();
+}
 
 std::size_t WindowAlerts::ask(const Alert& alert) {
-    std::size_t answer = alert.buttonWithoutAnswer();
-    MainQueue::sync([&] { answer = askOnMain(alert); });
-    return answer;
+    return QThread::currentThread() == thread() ? askOnMain(alert) : askFromElsewhere(alert);
 }
 
 std::size_t WindowAlerts::askOnMain(const Alert& alert) {
-    Question question{alert, alert.buttonWithoutAnswer()};
-    m_questions.push_back(&question);
+    std::size_t answer = alert.buttonWithoutAnswer();
+    QEventLoop loop;
+    show({alert, [&](std::size_t button) {
+              answer = button;
+              loop.quit();
+          }});
+    loop.exec();
+    return answer;
+}
+
+std::size_t WindowAlerts::askFromElsewhere(const Alert& alert) {
+    std::size_t answer = alert.buttonWithoutAnswer();
+    // Only the main thread's side holds the promise: should the question be dropped with the application, the
+    // wait ends too.
+    auto promise = std::make_shared<std::promise<void>>();
+    const std::future<void> answered = promise->get_future();
+    MainQueue::async(this, [this, alert, &answer, promise = std::move(promise)] {
+        show({alert, [&answer, promise](std::size_t button) {
+                  answer = button;
+                  promise->set_value();
+              }});
+    });
+    answered.wait();
+    return answer;
+}
+
+void WindowAlerts::show(Question question) {
+    m_questions.push_back(std::move(question));
     Q_EMIT changed();
-    question.loop.exec();
-    std::erase(m_questions, &question);
-    Q_EMIT changed();
-    return question.answer;
+}
+
+/// Nobody is there to answer any more.
+void WindowAlerts::answerAll() {
+    while (isShown())
+        answer(static_cast<int>(m_questions.back().alert.buttonWithoutAnswer()));
 }
 
 QString WindowAlerts::title() const {
-    return isShown() ? toQString(m_questions.back()->alert.title) : QString();
+    return isShown() ? toQString(m_questions.back().alert.title) : QString();
 }
 
 QString WindowAlerts::text() const {
-    return isShown() ? toQString(m_questions.back()->alert.text) : QString();
+    return isShown() ? toQString(m_questions.back().alert.text) : QString();
 }
 
 QStringList WindowAlerts::buttons() const {
-    return isShown() ? toQStrings(m_questions.back()->alert.buttons) : QStringList();
+    return isShown() ? toQStrings(m_questions.back().alert.buttons) : QStringList();
 }
 
 bool WindowAlerts::isWarning() const {
-    return isShown() && m_questions.back()->alert.style != AlertStyle::informational;
+    return isShown() && m_questions.back().alert.style != AlertStyle::informational;
 }
 
 void WindowAlerts::answer(int button) {
     if (!isShown() || button < 0 || button >= buttons().size())
         return;
-    m_questions.back()->answer = static_cast<std::size_t>(button);
-    m_questions.back()->loop.quit();
+    const auto answered = std::move(m_questions.back().answered);
+    m_questions.pop_back();
+    Q_EMIT changed();
+    answered(static_cast<std::size_t>(button));
 }
 
 } // namespace tavrik

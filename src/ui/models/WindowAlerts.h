@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
+#include <cstddef>
+#include <functional>
 #include <vector>
 
 namespace tavrik {
@@ -26,6 +28,9 @@ class WindowAlerts : public QObject, public Alerts {
     Q_PROPERTY(bool isWarning READ isWarning NOTIFY changed)
 
 public:
+    WindowAlerts();
+    ~WindowAlerts() override;
+
     std::size_t ask(const Alert& alert) override;
 
     bool isShown() const { return !m_questions.empty(); }
@@ -42,11 +47,17 @@ Q_SIGNALS:
     void changed();
 
 private:
-    struct Question;
+    struct Question {
+        Alert alert;
+        std::function<void(std::size_t)> answered;
+    };
 
     std::size_t askOnMain(const Alert& alert);
+    std::size_t askFromElsewhere(const Alert& alert);
+    void show(Question question);
+    void answerAll();
 
-    std::vector<Question*> m_questions; ///< the last one is shown
+    std::vector<Question> m_questions; ///< the last one is shown
 };
 
 } // namespace tavrik
