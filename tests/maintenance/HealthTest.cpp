@@ -44,6 +44,7 @@ TEST_F(Health, HasNoFindingInOrdinaryUse) {
 
 TEST_F(Health, LooksWithoutAChangeOnDisk) {
     restyle({kAtlas, kMissionControl});
+    program->settings.setBackupRetentionCount(20); // so that the copy knows of the end of the last swap
     execute("UPDATE dbinfo SET value='1' WHERE key='ignore_items_update_triggers'");
     remove(wrapper(kAtlas));
     write(support("AppSettings.plist"), "cut");
