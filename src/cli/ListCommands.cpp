@@ -117,8 +117,8 @@ ExitCode AppsCommand::run(Companion& companion) {
     if (apps->empty()) {
         companion.say(
             filter.showUnsupportedApps
-                ? "No application is so."
-                : "No application that can be restyled is so. \"--unsupported\" shows the others too.");
+                ? "No application matches."
+                : "No application matches. \"--unsupported\" shows the others too.");
         return ExitCode::done;
     }
     const auto mappings = managers.settings.getAllMappings();

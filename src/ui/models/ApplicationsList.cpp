@@ -133,7 +133,7 @@ void ApplicationsList::noteOutcome(Adding& adding, const Status& outcome) {
         m_with.notices.refuse(adding.refusals.front());
     else if (!adding.refusals.empty())
         m_with.notices.refuse(
-            tr("%n pictures were not taken in. %1", nullptr, static_cast<int>(adding.refusals.size()))
+            tr("%n picture(s) not taken in. %1", nullptr, static_cast<int>(adding.refusals.size()))
                 .arg(adding.refusals.front()));
     Q_EMIT added(toQString(adding.bundleID));
 }

@@ -34,7 +34,7 @@ bool save(const QImage& picture, const QString& file) {
 }
 
 /// Every scene whose name begins with `wanted`.
-bool draw(Program& program, const QString& folder, const QString& wanted) {
+bool draw(Program& program, const QString& folder, const QString& wanted, const QString& format) {
     for (const auto& scenes : {applicationsScenes(), themesScenes(), fontsScenes(), previewScenes(),
                                applyScenes(), settingsScenes()}) {
         for (const Scene& scene : scenes) {
@@ -45,7 +45,7 @@ bool draw(Program& program, const QString& folder, const QString& wanted) {
                 QGuiApplication::setPalette(isDark ? darkPalette() : QPalette());
                 const QString suffix = isDark ? QStringLiteral("-dark") : QString();
                 if (!save(Stagehand::settled(window),
-                          QStringLiteral("%1/%2%3.png").arg(folder, scene.name, suffix)))
+                          QStringLiteral("%1/%2%3.%4").arg(folder, scene.name, suffix, format)))
                     return false;
             }
             QGuiApplication::setPalette(QPalette());
@@ -56,11 +56,11 @@ bool draw(Program& program, const QString& folder, const QString& wanted) {
 
 } // namespace
 
-/// Leaves a picture of each view, light and dark, in a folder: tavrik-screens FOLDER [BEGINNING-OF-NAME]. Works
-/// on a practice Mac of its own. Twice the size with QT_SCALE_FACTOR=2.
+/// Leaves a picture of each view, light and dark, in a folder: tavrik-screens FOLDER [BEGINNING-OF-NAME
+/// [png|jpg]]. Works on a practice Mac of its own. Twice the size with QT_SCALE_FACTOR=2.
 int main(int argc, char** argv) {
     if (argc < 2) {
-        std::fprintf(stderr, "Usage: tavrik-screens FOLDER [BEGINNING-OF-NAME]\n");
+        std::fprintf(stderr, "Usage: tavrik-screens FOLDER [BEGINNING-OF-NAME [png|jpg]]\n");
         return 2;
     }
     declareMainThread();
@@ -87,5 +87,8 @@ int main(int argc, char** argv) {
     (*program)->start();
     Stagehand::waitFor([&] { return !(*program)->delegate().isStarting(); });
     (*program)->model().endFirstStart();
-    return draw(**program, folder, argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString()) ? 0 : 1;
+    const auto argument = [&](int index, const char* otherwise) {
+        return QString::fromLocal8Bit(argc > index ? argv[index] : otherwise);
+    };
+    return draw(**program, folder, argument(2, ""), argument(3, "png")) ? 0 : 1;
 }

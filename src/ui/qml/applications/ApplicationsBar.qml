@@ -26,8 +26,8 @@ Item {
         color: Style.secondary
         visible: bar.applications.total > 0
         text: bar.applications.shownCount === bar.applications.total
-              ? qsTr("%n apps", "", bar.applications.total)
-              : qsTr("%1 of %n apps", "", bar.applications.total).arg(bar.applications.shownCount)
+              ? qsTr("%n app(s)", "", bar.applications.total)
+              : qsTr("%1 of %n app(s)", "", bar.applications.total).arg(bar.applications.shownCount)
     }
     Row {
         id: tools
