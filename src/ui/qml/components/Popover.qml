@@ -7,6 +7,12 @@ T.Popup {
     id: popover
 
     required property string name
+    readonly property bool isPlaceShown: parent ? parent.visible : false
+
+    onIsPlaceShownChanged: {
+        if (!isPlaceShown)
+            close()
+    }
 
     y: parent ? parent.height + 6 : 0
     padding: Style.margin
