@@ -9,51 +9,6 @@
 
 namespace tavrik {
 
-bool isSame(const HealthFinding& one, const HealthFinding& other) {
-    return one.kind == other.kind && one.subject == other.subject;
-}
-
-std::string headingOf(const HealthFinding& finding) {
-    using Kind = HealthFinding::Kind;
-    if (finding.remedy == HealthFinding::Remedy::notNeeded)
-        return "Worth knowing";
-    switch (finding.kind) {
-    case Kind::launchpadDatabase:
-    case Kind::dockPreferences:
-    case Kind::settings:
-    case Kind::stagedChanges:
-    case Kind::triggerKey:
-        return "Launchpad, the Dock and the settings";
-    case Kind::wrapperMissing:
-    case Kind::wrapperLinks:
-    case Kind::wrapperIcon:
-    case Kind::wrapperUnknown:
-    case Kind::wrapperOrphaned:
-    case Kind::rows:
-    case Kind::tile:
-        return "Restyled applications";
-    case Kind::label:
-    case Kind::title:
-        return "Names";
-    case Kind::unfinishedSwap:
-    case Kind::unfinishedTitles:
-    case Kind::unfinishedApply:
-    case Kind::unfinishedRestore:
-    case Kind::leftover:
-        return "Unfinished work";
-    case Kind::orphanedIcons:
-    case Kind::selectedIcon:
-    case Kind::applicationUpdated:
-    case Kind::nullFlags:
-        return "Icons and applications";
-    case Kind::backup:
-    case Kind::layout:
-    case Kind::folderRights:
-        break;
-    }
-    return "Backups and folders";
-}
-
 namespace {
 
 QJsonObject toJson(const HealthFinding& finding) {

@@ -3,10 +3,9 @@
 #include "cli/BackupLookup.h"
 #include "cli/Companion.h"
 #include "cli/Words.h"
+#include "maintenance/Belongings.h"
 #include "maintenance/RemoveEverything.h"
 #include "maintenance/Traces.h"
-#include "platform/FileManager.h"
-#include "platform/Mac.h"
 
 #include <cstdint>
 
@@ -14,31 +13,9 @@ namespace tavrik {
 
 namespace {
 
-/// What is in a folder, whole; links count as themselves.
-struct Contents {
-    std::size_t files = 0;
-    std::uint64_t bytes = 0;
-};
-
-Contents contentsOf(const FileManager& files, const MacPath& path) {
-    const auto attributes = files.attributes(path, Links::dontFollow);
-    if (!attributes)
-        return {};
-    if (attributes->type != FileType::folder)
-        return {1, attributes->size};
-    Contents all;
-    const auto names = files.list(path);
-    for (const std::string& name : names ? *names : std::vector<std::string>()) {
-        const Contents one = contentsOf(files, path / name);
-        all.files += one.files;
-        all.bytes += one.bytes;
-    }
-    return all;
-}
-
-std::string sizeOf(const Contents& contents) {
+std::string sizeOf(std::uint64_t bytes) {
     constexpr std::uint64_t kKilobyte = 1000;
-    return sizeText(static_cast<std::int64_t>((contents.bytes + kKilobyte - 1) / kKilobyte));
+    return sizeText(static_cast<std::int64_t>((bytes + kKilobyte - 1) / kKilobyte));
 }
 
 /// What the first answer takes away.
@@ -54,18 +31,13 @@ std::string figures(const Traces& traces) {
 }
 
 /// What the second one deletes.
-std::string belongings(Companion& companion) {
-    Managers& managers = companion.managers();
-    const FileManager& files = companion.host().mac().files;
-    const MacPath& folder = managers.settings.appSupportURL();
-    const std::size_t themes = managers.themes.installedThemes().size();
-    const auto backups = managers.backups.listBackups();
-    const auto size = [&](const MacPath& path) { return " (" + sizeOf(contentsOf(files, path)) + ")"; };
-    return "the icons of all applications" + size(managers.settings.iconCacheURL()) + ", " +
-           counted(themes, "theme") + size(managers.themes.themesDirectory()) + ", " +
-           counted(backups.size(), "backup") + size(managers.backups.backupsBaseURL()) +
-           (backups.empty() ? "" : ", the Original State among them") +
-           ", what is staged, and the settings: all of " + folder.string() + size(folder);
+std::string inWords(const Belongings& belongings) {
+    const auto size = [](std::uint64_t bytes) { return " (" + sizeOf(bytes) + ")"; };
+    return "the icons of all applications" + size(belongings.iconBytes) + ", " +
+           counted(belongings.themes, "theme") + size(belongings.themeBytes) + ", " +
+           counted(belongings.backups, "backup") + size(belongings.backupBytes) +
+           (belongings.backups == 0 ? "" : ", the Original State among them") +
+           ", what is staged, and the settings: all of " + belongings.folder.string() + size(belongings.bytes);
 }
 
 } // namespace
@@ -120,7 +92,7 @@ ExitCode RemoveEverythingCommand::removeFromSystem(Companion& companion, const T
 
 ExitCode RemoveEverythingCommand::removeSupportFolder(Companion& companion) const {
     constexpr std::size_t kDelete = 0;
-    const std::string what = belongings(companion);
+    const std::string what = inWords(readBelongings(companion.managers().applyServices));
     if (!deleteSupportFolder &&
         companion.alerts().ask({.title = "Delete What Tavrik Keeps, Too?",
                                 .text = "These would go for good, and nothing brings them back: " + what + ".",

@@ -54,4 +54,10 @@ struct HealthFinding {
 std::string nameOf(HealthFinding::Kind kind);
 std::string nameOf(HealthFinding::Remedy remedy);
 
+/// Whether they tell of the same thing, at two moments.
+bool isSame(const HealthFinding& one, const HealthFinding& other);
+
+/// What the findings of its kind stand below: "Restyled applications".
+std::string headingOf(const HealthFinding& finding);
+
 } // namespace tavrik

@@ -30,6 +30,8 @@ class ApplyModel : public QObject {
     Q_PROPERTY(QStringList obstacles READ obstacles NOTIFY changed)
     Q_PROPERTY(QStringList runningApps READ runningApps NOTIFY changed)
 
+    /// Of what runs: an apply, or something else that owns the interface. A total of 0 is not known.
+    Q_PROPERTY(bool isApplying READ isApplying NOTIFY changed)
     Q_PROPERTY(QString status READ status NOTIFY progressed)
     Q_PROPERTY(double value READ value NOTIFY progressed)
     Q_PROPERTY(double total READ total NOTIFY progressed)
@@ -54,6 +56,8 @@ public:
     QStringList obstacles() const { return m_obstacles; }
 
     QStringList runningApps() const { return m_runningApps; }
+
+    bool isApplying() const { return m_isApplying; }
 
     QString status() const;
     double value() const; ///< steps done

@@ -1,23 +1,77 @@
 #pragma once
 
+#include "platform/NotificationCenter.h"
+#include "themes/ThemePreviewSettingsManager.h"
+#include "ui/models/IconShapesModel.h"
 #include "ui/models/UiServices.h"
 
 #include <QObject>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
+
+#include <vector>
 
 namespace tavrik {
 
-/// Small preferences, in the settings window. Main thread.
+/// Which tab of the settings window is shown, and what the tabs without a page of their own let a person
+/// choose: how themes are shown, and which icons are cut to the standard outline. Main thread.
 class PreferencesPage : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(Tab tab READ tab WRITE setTab NOTIFY tabChanged)
+    Q_PROPERTY(bool showsGrid READ showsGrid WRITE setShowsGrid NOTIFY changed) ///< else scattered
+    Q_PROPERTY(bool showsFileNames READ showsFileNames WRITE setShowsFileNames NOTIFY changed)
+    Q_PROPERTY(tavrik::IconShapesModel* shapes READ shapes CONSTANT)
+    Q_PROPERTY(bool areShapesLoaded READ areShapesLoaded NOTIFY changed)
+    Q_PROPERTY(QString problem READ problem NOTIFY changed) ///< something could not be saved, in a sentence
 
 public:
+    enum class Tab { Backups, Themes, Icons, Health, Leave };
+    Q_ENUM(Tab)
+
     explicit PreferencesPage(const UiServices& with);
 
+    Tab tab() const { return m_tab; }
+
+    void setTab(Tab tab);
+
+    bool showsGrid() const { return m_showsGrid; }
+
+    void setShowsGrid(bool shows);
+
+    bool showsFileNames() const { return m_showsFileNames; }
+
+    void setShowsFileNames(bool shows);
+
+    IconShapesModel* shapes() { return &m_shapes; }
+
+    bool areShapesLoaded() const { return m_areShapesLoaded; }
+
+    const QString& problem() const { return m_problem; }
+
+    /// The window comes up: it shows the backups when that was asked for, and takes the request back.
+    Q_INVOKABLE void open();
+    /// Reads the icons anew, off the main thread: called whenever they are shown.
+    Q_INVOKABLE void readShapes();
+    Q_INVOKABLE void setCut(int row, bool isCut);
+
+Q_SIGNALS:
+    void tabChanged();
+    void changed();
+
 private:
+    void saved(bool isSaved);
+
     const UiServices m_with;
+    ThemePreviewSettingsManager m_themePreview;
+    IconShapesModel m_shapes;
+    Tab m_tab = Tab::Backups;
+    bool m_showsGrid;
+    bool m_showsFileNames;
+    bool m_areShapesLoaded = false;
+    QString m_problem;
+    std::vector<NotificationCenter::Observation> m_observations;
 };
 
 } // namespace tavrik

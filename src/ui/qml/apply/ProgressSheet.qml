@@ -1,7 +1,7 @@
 import QtQuick
 import Tavrik
 
-// Covers the window while an apply runs, and cannot be closed.
+// Covers the window while an apply runs, or another change of Launchpad and the Dock, and cannot be closed.
 Sheet {
     id: sheet
 
@@ -9,7 +9,7 @@ Sheet {
     readonly property ApplyModel apply: model.apply
 
     objectName: "progress-sheet"
-    name: qsTr("Applying Changes")
+    name: apply.isApplying ? qsTr("Applying Changes") : qsTr("One Moment")
     mustBeAnswered: true
     visible: apply.stage === ApplyModel.Running
     padding: 28
@@ -24,7 +24,7 @@ Sheet {
         Label {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: qsTr("Applying Changes")
+            text: sheet.name
             font.pixelSize: Style.titleText
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
@@ -54,11 +54,12 @@ Sheet {
             height: 6
             radius: 3
             color: Style.line
+            visible: sheet.apply.total > 0
             Accessible.role: Accessible.ProgressBar
             Accessible.name: sheet.apply.status
 
             Rectangle {
-                width: sheet.apply.total > 0 ? parent.width * Math.min(1, sheet.apply.value / sheet.apply.total) : 0
+                width: parent.width * Math.min(1, sheet.apply.value / Math.max(1, sheet.apply.total))
                 height: parent.height
                 radius: 3
                 color: Style.accent
