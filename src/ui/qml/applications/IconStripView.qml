@@ -39,8 +39,12 @@ ListView {
     Accessible.name: qsTr("Icons")
 
     delegate: IconTile {
+        property bool isPooled: false // its icon may be gone from the disk
+
+        ListView.onPooled: isPooled = true
+        ListView.onReused: isPooled = false
         height: strip.height
-        source: strip.sourceOf(kind, path)
+        source: isPooled ? "" : strip.sourceOf(kind, path)
         label: strip.labelOf(kind, path, place, isPending)
         drop: kind === IconStrip.Add ? strip.drop : null
         hasChoice: strip.tiles.count > 2
