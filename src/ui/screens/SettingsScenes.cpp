@@ -100,6 +100,9 @@ QQuickWindow* showFindings(Program& program) {
 
 QQuickWindow* showTraces(Program& program) {
     PendingChangesManager& pending = program.managers().pendingChanges;
+    program.model().goTo(WindowModel::Place::UserApps);
+    program.delegate().discardChanges();
+    Stagehand::settled(program.mainWindow());
     pending.addIcons(savedIcons(program));
     pending.setPendingFont("Mathematical Script");
     program.delegate().applyChanges();
