@@ -155,6 +155,32 @@ TEST_F(SettingsWindowTest, RestoresWhenThePersonConfirmsIt) {
     EXPECT_TRUE(waitFor([&] { return backups().backups()->rowCount() == 3 && !model().isBlocked(); }));
 }
 
+TEST_F(SettingsWindowTest, SaysInPlaceWhatFailsAndChangesNothing) {
+    open();
+    backUp();
+    backUp();
+    const std::string original = backups().backups()->rows()[0].id;
+    ASSERT_TRUE(mac.files.remove(*program->managers().backups.find(original)));
+    backups().choose(0);
+    ASSERT_TRUE(waitFor([&] { return !backups().detail()->isReading(); }));
+    EXPECT_FALSE(backups().detail()->problem().isEmpty());
+    EXPECT_FALSE(find(QStringLiteral("backup-restore"))->isEnabled());
+
+    const auto before = volume.launchpadItems();
+    ASSERT_TRUE(mac.files.remove(program->managers().launchpadDatabase.launchpadDatabasePath()));
+    press("backup-now");
+    waitUntilDone(*backups().work());
+    EXPECT_TRUE(backups().work()->isRemarkBad());
+    EXPECT_EQ(find(QStringLiteral("work-line"))->property("text").toString(), backups().work()->remark());
+
+    backups().choose(1);
+    ASSERT_TRUE(waitFor([&] { return !backups().detail()->isReading(); }));
+    press("backup-restore");
+    answer("confirm-go");
+    waitUntilDone(*backups().work());
+    EXPECT_EQ(volume.launchpadItems(), before) << "a missing database needs no copy";
+}
+
 TEST_F(SettingsWindowTest, FindsDamageAndMendsIt) {
     open(Tab::Health);
     press("health-first-check");

@@ -36,6 +36,24 @@ FindingsModel::Row rowOf(const HealthFinding& finding) {
             .condition = conditionOf(finding.remedy)};
 }
 
+bool isAmong(const HealthFinding& finding, const std::vector<HealthFinding>& findings) {
+    return std::ranges::any_of(findings, [&](const HealthFinding& each) { return isSame(each, finding); });
+}
+
+/// Mends of what was shown to the person what is found still.
+HealthRepair mended(const ApplyServices& services, const std::vector<HealthFinding>& shown) {
+    std::vector<HealthFinding> now = checkHealth(services);
+    std::vector<HealthRepair::Outcome> already;
+    for (const HealthFinding& finding : shown) {
+        if (finding.remedy == Remedy::repair && !isAmong(finding, now))
+            already.push_back({finding, true, HealthPage::tr("It was right by itself.").toStdString()});
+    }
+    std::erase_if(now, [&](const HealthFinding& finding) { return !isAmong(finding, shown); });
+    HealthRepair repair = repairHealth(services, now);
+    repair.outcomes.insert(repair.outcomes.end(), already.begin(), already.end());
+    return repair;
+}
+
 } // namespace
 
 HealthPage::HealthPage(const UiServices& with) : m_with(with), m_work(with) {}
@@ -73,7 +91,7 @@ void HealthPage::mend() {
         tr("Mending…"), PageWork::Beside::nothing,
         [&services = m_with.managers.applyServices, &host = m_with.host, found = m_found] {
             host.startSession();
-            return repairHealth(services, found);
+            return mended(services, found);
         },
         [this](const HealthRepair& repair) { showMended(repair); });
 }

@@ -1,6 +1,7 @@
 #include "ui/models/IconProvider.h"
 
 #include "icons/IconCache.h"
+#include "model/SquircleOutline.h"
 #include "platform/Path.h"
 #include "system/IconManager.h"
 
@@ -74,10 +75,12 @@ QImage IconProvider::picture(const QString& id, int side) {
         return {};
     const MacPath path(
         QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString());
-    const QImage scaled = fitted(parts[0] == QLatin1String("app")     ? m_icons.appIcon(path, side)
-                                 : parts[0] == QLatin1String("shown") ? m_icons.shownIcon(path, side)
-                                                                      : iconFile(path, side),
-                                 side);
+    QImage scaled = fitted(parts[0] == QLatin1String("app")     ? m_icons.appIcon(path, side)
+                           : parts[0] == QLatin1String("shown") ? m_icons.shownIcon(path, side)
+                                                                : iconFile(path, side),
+                           side);
+    if (parts[0] == QLatin1String("cut"))
+        scaled = maskedToSquircle(scaled);
     const std::lock_guard lock(m_lock);
     m_pictures.insert(key, new QImage(scaled), std::max<qsizetype>(1, scaled.sizeInBytes() >> 10));
     return scaled;

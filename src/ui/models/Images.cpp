@@ -27,6 +27,10 @@ QString Images::ofFile(const QString& path, int revision) const {
     return address("file", path, revision);
 }
 
+QString Images::ofFileCut(const QString& path, int revision) const {
+    return address("cut", path, revision);
+}
+
 QString Images::ofApp(const QString& path, int revision) const {
     return address("app", path, revision);
 }

@@ -24,6 +24,8 @@ public:
 
     /// Of an icon file, a path of the Mac: of the store, or of a theme.
     Q_INVOKABLE QString ofFile(const QString& path, int revision) const;
+    /// The same, cut to the standard outline of icons.
+    Q_INVOKABLE QString ofFileCut(const QString& path, int revision) const;
     /// The own icon of the application at this path of the Mac.
     Q_INVOKABLE QString ofApp(const QString& path, int revision) const;
     /// What the Mac shows for this path of it: the custom icon, else the own one.

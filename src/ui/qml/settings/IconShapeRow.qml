@@ -25,7 +25,8 @@ Item {
         anchors.leftMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         size: 36
-        source: row.images.ofFile(row.path, row.images.revision)
+        source: row.isCut ? row.images.ofFileCut(row.path, row.images.revision)
+                          : row.images.ofFile(row.path, row.images.revision)
     }
     Column {
         anchors.left: icon.right
