@@ -291,6 +291,12 @@ void PendingChangesManager::deleteTheme(const std::string& themeID) {
     updatePendingChangesState();
 }
 
+void PendingChangesManager::keepTheme(const std::string& themeID) {
+    assertOnMainThread("Taking back the deletion of a theme");
+    if (m_staged.pendingThemeDeletions.erase(themeID) > 0)
+        updatePendingChangesState();
+}
+
 void PendingChangesManager::setPendingFont(const std::optional<std::string>& font) {
     assertOnMainThread("Staging a font");
     if (font && !m_fonts.hasFont(*font)) {

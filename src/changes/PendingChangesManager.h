@@ -96,6 +96,8 @@ public:
     /// Takes a staged deletion back; nothing happens when there is none.
     void keepThemeIcon(const std::string& themeID, const std::string& iconFileName);
     void deleteTheme(const std::string& themeID);
+    /// Takes a staged deletion back; nothing happens when there is none.
+    void keepTheme(const std::string& themeID);
 
     /// A font and a reset exclude each other: staging one takes the other back. Nothing takes the font back. A
     /// name that is no style's is refused.

@@ -3,12 +3,12 @@
 #include "changes/IconRow.h"
 #include "cli/AppLookup.h"
 #include "cli/Companion.h"
-#include "cli/HostFile.h"
 #include "cli/Json.h"
 #include "cli/Staged.h"
 #include "cli/Table.h"
 #include "cli/Words.h"
 #include "icons/IconFiles.h"
+#include "platform/HostFile.h"
 #include "platform/PathRules.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 
 #include "app/PracticeHost.h"
 #include "cli/Companion.h"
-#include "cli/HostFile.h"
+#include "platform/HostFile.h"
 #include "platform/Png.h"
 #include "platform/practice/PracticeMac.h"
 #include "practice/furnish/Furnish.h"

@@ -1,12 +1,13 @@
 #include "cli/ThemeFileCommands.h"
 
 #include "cli/AppLookup.h"
-#include "cli/HostFile.h"
 #include "cli/Table.h"
 #include "cli/ThemeJson.h"
 #include "cli/ThemeLookup.h"
 #include "cli/Words.h"
+#include "platform/HostFile.h"
 #include "themes/FolderImport.h"
+#include "themes/HostPictures.h"
 #include "themes/ThemeExchange.h"
 #include "themes/ThemeFile.h"
 
@@ -23,24 +24,6 @@ constexpr std::size_t kMostNames = 10; ///< of files that fit nothing; an icon s
 
 QString named(const std::string& path) {
     return QString::fromStdString(path);
-}
-
-/// The files of a folder that are pictures by their names, links to such files among them.
-Result<PictureFolder> pictureFolder(const std::string& folder) {
-    const QDir directory(named(folder));
-    if (!directory.exists())
-        return Error{"There is no folder at " + folder + "."};
-    if (!directory.isReadable())
-        return Error{folder + " cannot be read: you have no right to."};
-    const QStringList patterns =
-        QStringLiteral("*.png *.jpg *.jpeg *.tif *.tiff *.webp *.gif *.bmp *.svg *.svgz "
-                       "*.ico *.icns")
-            .split(QLatin1Char(' '));
-    PictureFolder pictures;
-    for (const QString& name : directory.entryList(patterns, QDir::Files, QDir::NoSort))
-        pictures.names.push_back(name.toStdString());
-    pictures.read = [path = HostPath(folder)](const std::string& name) { return readHostFile(path / name); };
-    return pictures;
 }
 
 const char* inWords(MatchKind kind) {
@@ -126,11 +109,9 @@ ExitCode ThemeImportCommand::run(Companion& companion) {
 }
 
 ExitCode ThemeImportFolderCommand::run(Companion& companion) {
-    const auto pictures = pictureFolder(folder);
+    const auto pictures = pictureFolderAt(HostPath(folder));
     if (!pictures)
         return companion.fail(pictures.error().description);
-    if (pictures->names.empty())
-        return companion.fail("There are no pictures in " + folder + "; folders in it are not looked into.");
     if (const ExitCode opened = openThemes(companion, Access::writing); opened != ExitCode::done)
         return opened;
     Managers& managers = companion.managers();

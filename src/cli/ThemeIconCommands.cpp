@@ -1,9 +1,9 @@
 #include "cli/ThemeIconCommands.h"
 
-#include "cli/HostFile.h"
 #include "cli/Staged.h"
 #include "cli/ThemeLookup.h"
 #include "icons/ImageIntake.h"
+#include "platform/HostFile.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "cli/AppLookup.h"
 #include "cli/Companion.h"
-#include "cli/HostFile.h"
 #include "icons/ImageIntake.h"
+#include "platform/HostFile.h"
 
 namespace tavrik {
 

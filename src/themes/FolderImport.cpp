@@ -26,16 +26,10 @@ struct Choice {
     Result<Bytes> png = Error{};
 };
 
-std::vector<Choice> choicesOf(const IconMatches& matches, bool acceptsDoubtful) {
+std::vector<Choice> choicesOf(const std::vector<IconMatch>& matches) {
     std::map<std::string, Choice> choices;
-    const auto add = [&choices](const std::vector<IconMatch>& list) {
-        for (const IconMatch& match : list)
-            choices[match.bundleID].candidates.push_back(match);
-    };
-    add(matches.sure);
-    add(matches.alternatives);
-    if (acceptsDoubtful)
-        add(matches.doubtful);
+    for (const IconMatch& match : matches)
+        choices[match.bundleID].candidates.push_back(match);
     std::vector<Choice> list;
     for (auto& [bundleID, choice] : choices)
         list.push_back(std::move(choice));
@@ -83,11 +77,23 @@ void choose(Choice& choice, const PictureFolder& folder) {
 Result<FolderImportReport> importFolder(const PictureFolder& folder, const std::vector<ApplicationInfo>& apps,
                                         const FolderImportOptions& options, const FontReplacer& fonts,
                                         ThemeManager& themes) {
-    if (const Status free = themes.checkNewName(options.themeName); !free)
+    IconMatches matches = matchIcons(folder.names, apps, fonts);
+    std::vector<IconMatch> chosen = matches.sure;
+    chosen.insert(chosen.end(), matches.alternatives.begin(), matches.alternatives.end());
+    if (options.acceptsDoubtful)
+        chosen.insert(chosen.end(), matches.doubtful.begin(), matches.doubtful.end());
+    auto report = importMatches(folder, chosen, options.themeName, themes);
+    if (report)
+        report->matches = std::move(matches);
+    return report;
+}
+
+Result<FolderImportReport> importMatches(const PictureFolder& folder, const std::vector<IconMatch>& chosen,
+                                         const std::string& themeName, ThemeManager& themes) {
+    if (const Status free = themes.checkNewName(themeName); !free)
         return free.error();
-    FolderImportReport report{
-        .theme = {}, .matches = matchIcons(folder.names, apps, fonts), .taken = {}, .failed = {}};
-    std::vector<Choice> choices = choicesOf(report.matches, options.acceptsDoubtful);
+    FolderImportReport report;
+    std::vector<Choice> choices = choicesOf(chosen);
     ignoreFailure(onAllCores(choices.size(), [&](std::size_t number) {
         choose(choices[number], folder);
         return Done{}; // one that fails keeps no other out
@@ -105,7 +111,7 @@ Result<FolderImportReport> importFolder(const PictureFolder& folder, const std::
     }
     if (icons.empty())
         return report;
-    auto theme = themes.createTheme(options.themeName, icons);
+    auto theme = themes.createTheme(themeName, icons);
     if (!theme)
         return theme.error();
     report.theme = std::move(*theme);

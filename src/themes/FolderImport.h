@@ -44,4 +44,9 @@ Result<FolderImportReport> importFolder(const PictureFolder& folder, const std::
                                         const FolderImportOptions& options, const FontReplacer& fonts,
                                         ThemeManager& themes);
 
+/// The same with matches that a person has looked at and let stand; `matches` of the answer is empty. Several
+/// for one application compete as above.
+Result<FolderImportReport> importMatches(const PictureFolder& folder, const std::vector<IconMatch>& chosen,
+                                         const std::string& themeName, ThemeManager& themes);
+
 } // namespace tavrik

@@ -8,7 +8,7 @@
 
 namespace tavrik {
 
-/// Files that a person names on the command line. Errors are sentences.
+/// Files of the host that a person names or hands over. Block on the disk. Errors are sentences.
 
 /// A plain file of at most so many bytes.
 Result<Bytes> readHostFile(const HostPath& file, std::size_t most = 256u << 20);

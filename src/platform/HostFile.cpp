@@ -1,4 +1,4 @@
-#include "cli/HostFile.h"
+#include "platform/HostFile.h"
 
 #include <QFile>
 #include <QFileInfo>
