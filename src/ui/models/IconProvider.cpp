@@ -1,7 +1,9 @@
 #include "ui/models/IconProvider.h"
 
 #include "icons/IconCache.h"
+#include "icons/ImageIntake.h"
 #include "model/SquircleOutline.h"
+#include "platform/HostFile.h"
 #include "platform/Path.h"
 #include "system/IconManager.h"
 
@@ -63,6 +65,19 @@ QQuickImageResponse* IconProvider::requestImageResponse(const QString& id, const
     return response;
 }
 
+QImage IconProvider::read(const QString& kind, const std::string& path, int side) {
+    if (kind == QLatin1String("app"))
+        return m_icons.appIcon(MacPath(path), side);
+    if (kind == QLatin1String("shown"))
+        return m_icons.shownIcon(MacPath(path), side);
+    if (kind != QLatin1String("host"))
+        return iconFile(MacPath(path), side);
+    const HostPath file(path);
+    const auto content = readHostFile(file);
+    const auto handedOver = content ? readPicture(*content, file.name()) : Result<QImage>(content.error());
+    return handedOver ? *handedOver : QImage();
+}
+
 QImage IconProvider::picture(const QString& id, int side) {
     const QString key = id + QLatin1Char('@') + QString::number(side);
     {
@@ -73,12 +88,10 @@ QImage IconProvider::picture(const QString& id, int side) {
     const QStringList parts = id.split(QLatin1Char('/'));
     if (parts.size() != 3)
         return {};
-    const MacPath path(
-        QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString());
-    QImage scaled = fitted(parts[0] == QLatin1String("app")     ? m_icons.appIcon(path, side)
-                           : parts[0] == QLatin1String("shown") ? m_icons.shownIcon(path, side)
-                                                                : iconFile(path, side),
-                           side);
+    QImage scaled = fitted(
+        read(parts[0], QByteArray::fromBase64(parts[2].toLatin1(), QByteArray::Base64UrlEncoding).toStdString(),
+             side),
+        side);
     if (parts[0] == QLatin1String("cut"))
         scaled = maskedToSquircle(scaled);
     const std::lock_guard lock(m_lock);

@@ -8,6 +8,7 @@
 #include <QQuickAsyncImageProvider>
 
 #include <mutex>
+#include <string>
 
 namespace tavrik {
 
@@ -25,6 +26,7 @@ public:
 private:
     QImage picture(const QString& id, int side);
     QImage iconFile(const MacPath& path, int side) const;
+    QImage read(const QString& kind, const std::string& path, int side);
 
     IconCache& m_cache;
     const IconManager& m_icons;

@@ -39,4 +39,8 @@ QString Images::ofShown(const QString& path, int revision) const {
     return address("shown", path, revision);
 }
 
+QString Images::ofHostFile(const QString& path) const {
+    return address("host", path, 0);
+}
+
 } // namespace tavrik

@@ -30,6 +30,8 @@ public:
     Q_INVOKABLE QString ofApp(const QString& path, int revision) const;
     /// What the Mac shows for this path of it: the custom icon, else the own one.
     Q_INVOKABLE QString ofShown(const QString& path, int revision) const;
+    /// Of a picture that a person hands over, a path of the host.
+    Q_INVOKABLE QString ofHostFile(const QString& path) const;
 
 Q_SIGNALS:
     void revisionChanged();

@@ -1,9 +1,20 @@
 #pragma once
 
+#include "themes/ThemePreviewSettingsManager.h"
+#include "ui/models/FolderImportModel.h"
+#include "ui/models/OneTheme.h"
+#include "ui/models/ThemeShelf.h"
+#include "ui/models/ThemeWork.h"
+#include "ui/models/ThemesModel.h"
 #include "ui/models/UiServices.h"
 
+#include <QList>
 #include <QObject>
+#include <QString>
+#include <QUrl>
 #include <QtQml/qqmlregistration.h>
+
+#include <vector>
 
 namespace tavrik {
 
@@ -12,12 +23,85 @@ class ThemesPage : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(tavrik::ThemesModel* library READ library CONSTANT)
+    Q_PROPERTY(tavrik::OneTheme* theme READ theme CONSTANT)
+    Q_PROPERTY(tavrik::FolderImportModel* folderImport READ folderImport CONSTANT)
+    Q_PROPERTY(tavrik::ThemeWork* work READ work CONSTANT)
+    Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
+    Q_PROPERTY(bool showsGrid READ showsGrid WRITE setShowsGrid NOTIFY changed) ///< else scattered
+    Q_PROPERTY(bool showsFileNames READ showsFileNames WRITE setShowsFileNames NOTIFY changed)
+    Q_PROPERTY(bool isCreating READ isCreating WRITE setCreating NOTIFY changed) ///< the sheet is shown
+    Q_PROPERTY(QString createProblem READ createProblem NOTIFY changed)          ///< why no theme was made
 
 public:
     explicit ThemesPage(const UiServices& with);
 
+    ThemesModel* library() { return &m_library; }
+
+    OneTheme* theme() { return &m_theme; }
+
+    FolderImportModel* folderImport() { return &m_folderImport; }
+
+    ThemeWork* work() { return &m_work; }
+
+    bool isLoaded() const { return m_shelf.isLoaded(); }
+
+    bool showsGrid() const { return m_style == ThemePreviewStyle::grid; }
+
+    void setShowsGrid(bool shows);
+
+    bool showsFileNames() const { return m_showsFileNames; }
+
+    void setShowsFileNames(bool shows);
+
+    bool isCreating() const { return m_isCreating; }
+
+    void setCreating(bool isCreating);
+
+    QString createProblem() const { return m_createProblem; }
+
+    /// The view is there: from now on the themes are read.
+    Q_INVOKABLE void open();
+
+    Q_INVOKABLE void showTheme(const QString& themeID);
+    Q_INVOKABLE void showLibrary();
+
+    /// Why a new theme could not have this name; empty when it could, and while nothing is typed.
+    Q_INVOKABLE QString nameProblem(const QString& name) const;
+    Q_INVOKABLE void create(const QString& name, bool moveActiveIcons);
+
+    /// Stages the theme's icons.
+    Q_INVOKABLE void apply(const QString& themeID);
+
+    /// Stages the deletion of a theme, and takes it back.
+    Q_INVOKABLE void moveToBin(const QString& themeID);
+    Q_INVOKABLE void keep(const QString& themeID);
+
+    Q_INVOKABLE void importFiles(const QList<QUrl>& files);
+    Q_INVOKABLE void exportTheme(const QString& themeID, const QUrl& file);
+    /// What a theme's file is called unless the person says otherwise.
+    Q_INVOKABLE QString exportName(const QString& themeID) const;
+
+    /// What was let go on the library: theme files, or a folder of pictures.
+    Q_INVOKABLE void drop(const QList<QUrl>& things);
+
+Q_SIGNALS:
+    void changed();
+
 private:
+    void update();
+
     const UiServices m_with;
+    ThemePreviewSettingsManager m_settings;
+    ThemeShelf m_shelf;
+    ThemeWork m_work;
+    ThemesModel m_library;
+    OneTheme m_theme;
+    FolderImportModel m_folderImport;
+    ThemePreviewStyle m_style = ThemePreviewStyle::scattered;
+    bool m_showsFileNames = false;
+    bool m_isCreating = false;
+    QString m_createProblem;
 };
 
 } // namespace tavrik

@@ -1,10 +1,123 @@
 #include "ui/Program.h"
+#include "ui/screens/SampleThemes.h"
 #include "ui/screens/Scene.h"
+#include "ui/screens/Stagehand.h"
+
+#include <QTemporaryDir>
+#include <QUrl>
 
 namespace tavrik {
 
+namespace {
+
+ThemesPage& pageOf(Program& program) {
+    return *program.model().themes();
+}
+
+QQuickWindow* library(Program& program) {
+    ThemesPage& page = pageOf(program);
+    program.model().setPlace(WindowModel::Place::Themes);
+    page.showLibrary();
+    page.work()->dismiss();
+    Stagehand::waitFor([&] { return page.isLoaded() && !program.delegate().isStarting(); });
+    Stagehand::click(QStringLiteral("welcome-start"));
+    return program.mainWindow();
+}
+
+QQuickWindow* filledLibrary(Program& program) {
+    QQuickWindow* const window = library(program);
+    if (pageOf(program).library()->count() == 0)
+        addSampleThemes(program);
+    Stagehand::waitFor([&] { return pageOf(program).library()->count() == 4; }, 60'000);
+    return window;
+}
+
+QString themeID(Program& program, int row) {
+    ThemesModel* const themes = pageOf(program).library();
+    return themes->data(themes->index(row), ThemesModel::ThemeIDRole).toString();
+}
+
+QQuickWindow* oneTheme(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    ThemesPage& page = pageOf(program);
+    page.folderImport()->cancel();
+    page.showTheme(themeID(program, 2));
+    page.theme()->toggle(QStringLiteral("com.apple.Chess"));
+    page.theme()->toggle(QStringLiteral("com.apple.Notes"));
+    return window;
+}
+
+QQuickWindow* edited(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    ThemesPage& page = pageOf(program);
+    page.showTheme(themeID(program, 2));
+    page.theme()->setEditing(true);
+    page.theme()->remove(QStringLiteral("com.apple.Dictionary"));
+    return window;
+}
+
+QQuickWindow* applied(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    ThemesPage& page = pageOf(program);
+    page.moveToBin(themeID(program, 3));
+    page.apply(themeID(program, 1));
+    Stagehand::waitFor([&] { return !page.work()->isRunning(); }, 60'000);
+    return window;
+}
+
+QQuickWindow* grid(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    pageOf(program).setShowsGrid(true);
+    return window;
+}
+
+QQuickWindow* gridWithNames(Program& program) {
+    QQuickWindow* const window = grid(program);
+    pageOf(program).setShowsFileNames(true);
+    return window;
+}
+
+QQuickWindow* refusedName(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    pageOf(program).setShowsFileNames(false);
+    pageOf(program).setShowsGrid(false);
+    pageOf(program).setCreating(true);
+    Stagehand::waitFor([] { return Stagehand::find(QStringLiteral("themeName")) != nullptr; });
+    Stagehand::type(window, QStringLiteral("Graphite"));
+    return window;
+}
+
+QQuickWindow* review(Program& program) {
+    static const QTemporaryDir folder; // read while the picture is taken
+    QQuickWindow* const window = filledLibrary(program);
+    ThemesPage& page = pageOf(program);
+    page.setCreating(false);
+    writeSamplePictures(HostPath(folder.path().toStdString()));
+    page.folderImport()->begin(QUrl::fromLocalFile(folder.path()));
+    Stagehand::waitFor([&] { return page.folderImport()->phase() == FolderImportModel::Review; });
+    page.folderImport()->setThemeName(QStringLiteral("Candy"));
+    return window;
+}
+
+QQuickWindow* help(Program& program) {
+    QQuickWindow* const window = filledLibrary(program);
+    Stagehand::waitFor([] { return Stagehand::click(QStringLiteral("themeHelp")); });
+    return window;
+}
+
+} // namespace
+
 std::vector<Scene> themesScenes() {
-    return {};
+    return {{QStringLiteral("themes-empty"), library},
+            {QStringLiteral("themes-library"), filledLibrary},
+            {QStringLiteral("themes-library-grid"), grid},
+            {QStringLiteral("themes-library-grid-names"), gridWithNames},
+            {QStringLiteral("themes-create-refused"), refusedName},
+            {QStringLiteral("themes-import-review"), review},
+            {QStringLiteral("themes-one"), oneTheme},
+            {QStringLiteral("themes-one-edited"), edited},
+            {QStringLiteral("themes-library-applied"), applied},
+            {QStringLiteral("themes-library-help"), help}};
 }
 
 } // namespace tavrik
