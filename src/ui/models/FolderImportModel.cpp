@@ -42,7 +42,7 @@ QString inWords(const IconMatch& match) {
 } // namespace
 
 QVariant FolderImportModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.row() < 0 || index.row() >= rowCount())
         return {};
     const FolderImportRow& row = rows()[static_cast<std::size_t>(index.row())];
     switch (role) {

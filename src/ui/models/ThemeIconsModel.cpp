@@ -7,7 +7,7 @@
 namespace tavrik {
 
 QVariant ThemeIconsModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.row() < 0 || index.row() >= rowCount())
         return {};
     const ThemeIconRow& row = rows()[static_cast<std::size_t>(index.row())];
     switch (role) {

@@ -37,7 +37,7 @@ ThemesModel::ThemesModel(const ThemeShelf& shelf, const PendingChangesManager& c
       m_changes(changes) {}
 
 QVariant ThemesModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.row() < 0 || index.row() >= rowCount())
         return {};
     const ThemeCard& card = rows()[static_cast<std::size_t>(index.row())];
     switch (role) {

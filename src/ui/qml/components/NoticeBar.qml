@@ -13,6 +13,7 @@ Rectangle {
     color: Style.dark ? "#46464c" : "#303034"
     opacity: notices.text ? 1 : 0
     visible: opacity > 0
+    Accessible.ignored: !notices.text
     Accessible.role: Accessible.AlertMessage
     Accessible.name: notices.text
 
