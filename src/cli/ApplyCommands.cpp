@@ -62,8 +62,8 @@ void sayPlan(Companion& companion, const ApplyPlan& plan, const AppNames& names)
     sayGroup(companion, "Get another icon: ", plan.updated, names);
     sayGroup(companion, "Get their own look back: ", plan.removed, names);
     sayChanges(companion, plan.changes, names);
-    companion.say("A backup is taken before. The Dock is restarted " + counted(static_cast<std::size_t>(plan.dockRestarts()), "time") +
-                  ".");
+    companion.say("A backup is taken before. The Dock is restarted " +
+                  counted(static_cast<std::size_t>(plan.dockRestarts()), "time") + ".");
 }
 
 void sayResult(Companion& companion, const ApplyResult& result) {

@@ -115,10 +115,9 @@ ExitCode AppsCommand::run(Companion& companion) {
         return ExitCode::done;
     }
     if (apps->empty()) {
-        companion.say(
-            filter.showUnsupportedApps
-                ? "No application matches."
-                : "No application matches. \"--unsupported\" shows the others too.");
+        companion.say(filter.showUnsupportedApps
+                          ? "No application matches."
+                          : "No application matches. \"--unsupported\" shows the others too.");
         return ExitCode::done;
     }
     const auto mappings = managers.settings.getAllMappings();

@@ -34,8 +34,8 @@ public:
 
     virtual std::vector<RunningApplication> runningApplications() const = 0;
 
-    /// Asks every running instance to quit, as from its menu: it may ask the person about unsaved documents, and
-    /// may stay. False when it could not be asked.
+    /// Asks every running instance to quit, as from its menu: it may ask the person about unsaved documents,
+    /// and may stay. False when it could not be asked.
     [[nodiscard]] virtual bool askToQuit(const std::string& bundleID) = 0;
 
     /// Asks the system to end every running instance at once. False when it could not be asked.
