@@ -3,9 +3,11 @@
 #include "ui/InterfaceFont.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
+#include "ui/screens/PseudoLocale.h"
 #include "ui/screens/Scene.h"
 #include "ui/screens/Stagehand.h"
 
+#include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
@@ -56,21 +58,36 @@ bool draw(Program& program, const QString& folder, const QString& wanted, const 
 
 } // namespace
 
-/// Leaves a picture of each view, light and dark, in a folder: tavrik-screens FOLDER [BEGINNING-OF-NAME
-/// [png|jpg]]. Works on a practice Mac of its own. Twice the size with QT_SCALE_FACTOR=2.
+/// Leaves a picture of each view, light and dark, in a folder. Works on a practice Mac of its own. Twice the
+/// size with QT_SCALE_FACTOR=2.
 int main(int argc, char** argv) {
-    if (argc < 2) {
-        std::fprintf(stderr, "Usage: tavrik-screens FOLDER [BEGINNING-OF-NAME [png|jpg]]\n");
-        return 2;
-    }
     declareMainThread();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     useInterfaceFont();
-    const QString folder = QString::fromLocal8Bit(argv[1]);
+
+    QCommandLineParser arguments;
+    arguments.addHelpOption();
+    arguments.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Where the pictures go."));
+    const QCommandLineOption only(QStringLiteral("only"), QStringLiteral("Scenes that begin so."),
+                                  QStringLiteral("beginning"));
+    const QCommandLineOption format(QStringLiteral("format"), QStringLiteral("png or jpg."),
+                                    QStringLiteral("format"), QStringLiteral("png"));
+    const QCommandLineOption pseudo(QStringLiteral("pseudo"), QStringLiteral("With texts that are longer."));
+    const QCommandLineOption mirrored(QStringLiteral("mirrored"), QStringLiteral("From right to left."));
+    arguments.addOptions({only, format, pseudo, mirrored});
+    arguments.process(application);
+    if (arguments.positionalArguments().size() != 1)
+        arguments.showHelp(2);
+    const QString folder = arguments.positionalArguments().front();
     QDir().mkpath(folder);
+    PseudoLocale pseudoLocale;
+    if (arguments.isSet(pseudo))
+        QCoreApplication::installTranslator(&pseudoLocale);
+    if (arguments.isSet(mirrored))
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
 
     const QTemporaryDir place;
     WindowAlerts alerts;
@@ -87,8 +104,5 @@ int main(int argc, char** argv) {
     (*program)->start();
     Stagehand::waitFor([&] { return !(*program)->delegate().isStarting(); });
     (*program)->model().endFirstStart();
-    const auto argument = [&](int index, const char* otherwise) {
-        return QString::fromLocal8Bit(argc > index ? argv[index] : otherwise);
-    };
-    return draw(**program, folder, argument(2, ""), argument(3, "png")) ? 0 : 1;
+    return draw(**program, folder, arguments.value(only), arguments.value(format)) ? 0 : 1;
 }
