@@ -78,6 +78,10 @@ Program::Program(MacHost& host, WindowAlerts& alerts, SupportFolderLock lock)
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QCoreApplication::instance()->installEventFilter(this);
     QCoreApplication::installTranslator(&m_plurals);
+    QObject::connect(m_model.apply(), &ApplyModel::changed, this, [this] {
+        if (m_model.apply()->stage() == ApplyModel::Stage::Result && m_main && !m_main->window()->isActive())
+            m_main->window()->alert(0); // until the person looks
+    });
     QObject::connect(&m_model, &WindowModel::quitAsked, this, &Program::quit);
     m_engine.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
 }

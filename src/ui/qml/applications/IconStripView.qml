@@ -27,7 +27,6 @@ ListView {
     }
 
     orientation: ListView.Horizontal
-    layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
     model: tiles
     clip: true
     reuseItems: true
