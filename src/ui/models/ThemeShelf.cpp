@@ -6,7 +6,6 @@
 #include "platform/MainQueue.h"
 #include "ui/models/Background.h"
 
-#include <tuple>
 #include <utility>
 
 namespace tavrik {
@@ -39,9 +38,7 @@ void ThemeShelf::reload() {
     }
     m_with.background.run(
         this,
-        [&managers = m_with.managers] {
-            std::vector<Theme> themes;
-            MainQueue::sync([&] { themes = managers.themes.installedThemes(); });
+        [&managers = m_with.managers, themes = m_with.managers.themes.installedThemes()] {
             return readThemes(managers, themes);
         },
         [this](ThemeReading reading) {

@@ -8,6 +8,7 @@
 #include "ui/models/Text.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace tavrik {

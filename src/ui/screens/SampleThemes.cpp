@@ -13,6 +13,7 @@
 
 #include <array>
 #include <atomic>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -86,17 +87,31 @@ std::map<std::string, Bytes> iconsOf(const SampleTheme& theme) {
     return icons;
 }
 
+/// Waits for it, with the window alive.
+void offMain(const std::function<void()>& work) {
+    std::atomic<bool> isDone = false;
+    SerialQueue queue("com.tavrik.samples");
+    queue.async([&] {
+        work();
+        isDone = true;
+    });
+    Stagehand::waitFor([&] { return isDone.load(); }, 60'000);
+}
+
 } // namespace
 
 void addSampleThemes(Program& program) {
-    std::atomic<bool> areThere = false;
-    SerialQueue queue("com.tavrik.samples");
-    queue.async([&] {
+    offMain([&themes = program.managers().themes] {
         for (const SampleTheme& theme : kThemes)
-            ignoreFailure(program.managers().themes.createTheme(theme.name, iconsOf(theme)));
-        areThere = true;
+            ignoreFailure(themes.createTheme(theme.name, iconsOf(theme)));
     });
-    Stagehand::waitFor([&] { return areThere.load(); }, 60'000);
+}
+
+void removeThemes(Program& program) {
+    offMain([&themes = program.managers().themes, listed = program.managers().themes.installedThemes()] {
+        for (const Theme& theme : listed)
+            ignoreFailure(themes.removeTheme(theme.themeID));
+    });
 }
 
 void writeSamplePictures(const HostPath& folder) {

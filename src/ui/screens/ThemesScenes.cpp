@@ -10,8 +10,6 @@ namespace tavrik {
 
 namespace {
 
-constexpr int kSampleThemes = 4; ///< besides those that other scenes have made
-
 ThemesPage& pageOf(Program& program) {
     return *program.model().themes();
 }
@@ -26,24 +24,35 @@ QQuickWindow* library(Program& program) {
     return program.mainWindow();
 }
 
-QQuickWindow* filledLibrary(Program& program) {
+QQuickWindow* emptyLibrary(Program& program) {
+    removeThemes(program); // other scenes have theirs
     QQuickWindow* const window = library(program);
-    if (pageOf(program).library()->count() < kSampleThemes)
-        addSampleThemes(program);
-    Stagehand::waitFor([&] { return pageOf(program).library()->count() >= kSampleThemes; }, 60'000);
+    Stagehand::waitFor([&] { return pageOf(program).library()->count() == 0; });
     return window;
 }
 
-QString themeID(Program& program, int row) {
-    ThemesModel* const themes = pageOf(program).library();
-    return themes->data(themes->index(row), ThemesModel::ThemeIDRole).toString();
+QString themeID(Program& program, const char* name) {
+    const ThemesModel* const themes = pageOf(program).library();
+    for (const ThemeCard& card : themes->rows()) {
+        if (card.name == name)
+            return QString::fromStdString(card.themeID);
+    }
+    return {};
+}
+
+QQuickWindow* filledLibrary(Program& program) {
+    QQuickWindow* const window = library(program);
+    if (themeID(program, "Ember").isEmpty())
+        addSampleThemes(program);
+    Stagehand::waitFor([&] { return !themeID(program, "Ember").isEmpty(); });
+    return window;
 }
 
 QQuickWindow* oneTheme(Program& program) {
     QQuickWindow* const window = filledLibrary(program);
     ThemesPage& page = pageOf(program);
     page.folderImport()->cancel();
-    page.showTheme(themeID(program, 2));
+    page.showTheme(themeID(program, "Sherbet"));
     page.theme()->toggle(QStringLiteral("com.apple.Chess"));
     page.theme()->toggle(QStringLiteral("com.apple.Notes"));
     return window;
@@ -52,7 +61,7 @@ QQuickWindow* oneTheme(Program& program) {
 QQuickWindow* edited(Program& program) {
     QQuickWindow* const window = filledLibrary(program);
     ThemesPage& page = pageOf(program);
-    page.showTheme(themeID(program, 2));
+    page.showTheme(themeID(program, "Sherbet"));
     page.theme()->setEditing(true);
     page.theme()->remove(QStringLiteral("com.apple.Dictionary"));
     return window;
@@ -61,8 +70,8 @@ QQuickWindow* edited(Program& program) {
 QQuickWindow* applied(Program& program) {
     QQuickWindow* const window = filledLibrary(program);
     ThemesPage& page = pageOf(program);
-    page.moveToBin(themeID(program, 3));
-    page.apply(themeID(program, 1));
+    page.moveToBin(themeID(program, "Ember"));
+    page.apply(themeID(program, "Tide"));
     Stagehand::waitFor([&] { return !page.work()->isRunning(); }, 60'000);
     return window;
 }
@@ -110,7 +119,7 @@ QQuickWindow* help(Program& program) {
 } // namespace
 
 std::vector<Scene> themesScenes() {
-    return {{QStringLiteral("themes-empty"), library},
+    return {{QStringLiteral("themes-empty"), emptyLibrary},
             {QStringLiteral("themes-library"), filledLibrary},
             {QStringLiteral("themes-library-grid"), grid},
             {QStringLiteral("themes-library-grid-names"), gridWithNames},
