@@ -56,8 +56,8 @@ void IconShapesModel::show(const std::vector<Row>& rows) {
     Q_EMIT countChanged();
 }
 
-void IconShapesModel::setCut(int row, bool isCut) {
-    m_rows.at(static_cast<std::size_t>(row)).isCut = isCut;
+void IconShapesModel::setCut(int row, bool cuts) {
+    m_rows.at(static_cast<std::size_t>(row)).isCut = cuts;
     Q_EMIT dataChanged(index(row), index(row));
 }
 

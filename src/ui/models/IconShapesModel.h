@@ -41,7 +41,7 @@ public:
     /// Rows that are as they were stay untouched.
     void show(const std::vector<Row>& rows);
 
-    void setCut(int row, bool isCut);
+    void setCut(int row, bool cuts);
 
 Q_SIGNALS:
     void countChanged();
