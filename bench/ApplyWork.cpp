@@ -10,6 +10,7 @@
 
 #include "app/Managers.h"
 #include "bench/ManyApps.h"
+#include "bench/PeakMemory.h"
 #include "platform/Alerts.h"
 #include "platform/Bytes.h"
 #include "platform/Log.h"
@@ -102,16 +103,6 @@ double processorTime(int who) {
         return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
     };
     return ms(usage.ru_utime) + ms(usage.ru_stime);
-}
-
-long peakMemory() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-#ifdef __APPLE__
-    return usage.ru_maxrss / 1024;
-#else
-    return usage.ru_maxrss;
-#endif
 }
 
 int apply(const HostPath& root) {

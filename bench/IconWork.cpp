@@ -7,6 +7,7 @@
 //   prints the growth of memory in KiB
 
 #include "bench/IconFolders.h"
+#include "bench/PeakMemory.h"
 #include "bench/SamplePictures.h"
 #include "icons/ImageIntake.h"
 #include "platform/FileManager.h"
@@ -15,8 +16,6 @@
 #include "system/IconManager.h"
 
 #include <QPainter>
-
-#include <sys/resource.h>
 
 #include <cstdio>
 #include <fstream>
@@ -76,16 +75,6 @@ int dropByQt(const char* file, const std::string& out) {
         return image.save(QString::fromStdString(out + name), "png");
     };
     return save(icon, "/icon.png") && save(large, "/large.png") && save(small, "/small.png") ? 0 : 1;
-}
-
-long peakMemory() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-#ifdef __APPLE__
-    return usage.ru_maxrss / 1024;
-#else
-    return usage.ru_maxrss;
-#endif
 }
 
 int walk(const HostPath& folder, int applications, int perApplication) {

@@ -1,5 +1,7 @@
 #include "practice/picture/Look.h"
 
+#include "platform/LetterFamilies.h"
+
 #include <QStringList>
 
 namespace tavrik::practice {
@@ -16,24 +18,12 @@ QFont font(int pixels, QFont::Weight weight) {
     return font;
 }
 
-/// The family that has all the styled letters of this one's kind; empty for any other character.
-QString familyOfStyle(char32_t point) {
-    const auto within = [point](char32_t first, char32_t last) { return point >= first && point <= last; };
-    if (within(0x2100, 0x214F) || within(0x1D400, 0x1D7FF))
-        return QStringLiteral("Noto Sans Math");
-    if (within(0x2460, 0x24FF) || within(0x2776, 0x277F) || within(0x1F110, 0x1F189))
-        return QStringLiteral("Noto Sans Symbols");
-    if (within(0x0250, 0x02AF) || within(0x1D00, 0x1D7F) || point == 0x03D9 || point == 0xA730)
-        return QStringLiteral("Noto Sans");
-    return {};
-}
-
 } // namespace
 
 QFont Look::fontFor(const QString& title, QFont font) {
     for (const char32_t point : title.toStdU32String()) {
-        if (const QString family = familyOfStyle(point); !family.isEmpty()) {
-            font.setFamilies(QStringList{family} + font.families());
+        if (const auto family = familyOfStyledLetter(point); !family.empty()) {
+            font.setFamilies(QStringList{QString::fromUtf8(family)} + font.families());
             break;
         }
     }

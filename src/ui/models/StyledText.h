@@ -14,8 +14,8 @@ class StyledText : public QObject {
 
 public:
     /// The font family that has the whole alphabet, so that its letters do not come from several, which stand
-    /// unevenly. The application's own for plain text, and where that
-    /// family is not installed: a Mac finds its own.
+    /// unevenly. The application's own for plain text, and where that family is not installed: a Mac finds its
+    /// own.
     Q_INVOKABLE QString familyFor(const QString& text) const;
 };
 
