@@ -7,6 +7,7 @@ class Bookmarks;
 class Clock;
 class DistributedNotifications;
 class FileManager;
+class LocalNotifications;
 class Machine;
 class Random;
 class Tools;
@@ -28,6 +29,7 @@ struct Mac {
     Clock& clock;
     Alerts& alerts;
     Random& random;
+    LocalNotifications& localNotifications;
 };
 
 } // namespace tavrik

@@ -25,7 +25,8 @@ struct SmallMac {
             .machine = practice.mac().machine,
             .clock = clock,
             .alerts = practice.mac().alerts,
-            .random = practice.mac().random};
+            .random = practice.mac().random,
+            .localNotifications = practice.mac().localNotifications};
 };
 
 } // namespace tavrik::test

@@ -93,8 +93,8 @@ private:
 protected:
     LogRecorder log;
     WindowAlerts alerts;
-    Mac whole{mac.volume,   mac.files,   mac.bookmarks, mac.workspace, mac.tools, mac.notifications,
-              mac.defaults, mac.machine, clock,         alerts,        mac.random};
+    Mac whole{mac.volume,   mac.files,   mac.bookmarks, mac.workspace, mac.tools,  mac.notifications,
+              mac.defaults, mac.machine, clock,         alerts,        mac.random, mac.localNotifications};
     Host host{whole};
     std::unique_ptr<Program> program;
     bool isWelcomed = true; ///< the page of the first start was seen

@@ -34,6 +34,8 @@ inline const MacPath kProcessFolder = kStateFolder / "processes";
 inline const MacPath kToolJournal = kStateFolder / "tools.log";
 /// Text, a line each: seconds since 2001, a tab, the notification's name.
 inline const MacPath kNotificationJournal = kStateFolder / "notifications.log";
+/// Text, a line each: seconds since 2001, a tab, a message's title, a tab, its text.
+inline const MacPath kLocalNotificationJournal = kStateFolder / "messages.log";
 /// Property list: array of dictionaries with bundleID and name.
 inline const MacPath kRunningApplications = kStateFolder / "running.plist";
 /// Property list: array of the paths that carry the hidden flag.

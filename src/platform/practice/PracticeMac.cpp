@@ -6,6 +6,7 @@
 #include "platform/practice/PracticeBookmarks.h"
 #include "platform/practice/PracticeDefaults.h"
 #include "platform/practice/PracticeFileManager.h"
+#include "platform/practice/PracticeLocalNotifications.h"
 #include "platform/practice/PracticeMachine.h"
 #include "platform/practice/PracticeNotifications.h"
 #include "platform/practice/PracticeTools.h"
@@ -33,7 +34,8 @@ struct PracticeMac::Ports {
           tools(files),
           notifications(files, clock),
           defaults(files),
-          machine(files) {}
+          machine(files),
+          localNotifications(files, clock) {}
 
     PracticeFileManager files;
     SystemClock systemClock;
@@ -45,6 +47,7 @@ struct PracticeMac::Ports {
     PracticeNotifications notifications;
     PracticeDefaults defaults;
     PracticeMachine machine;
+    PracticeLocalNotifications localNotifications;
     PracticeAlerts alerts;
     SystemRandom random;
 };
@@ -64,7 +67,8 @@ PracticeMac::PracticeMac(HostPath root, const Replacements& replacements)
             .machine = own.machine,
             .clock = own.clock,
             .alerts = chosen<Alerts>(replacements.alerts, own.alerts),
-            .random = own.random});
+            .random = own.random,
+            .localNotifications = own.localNotifications});
 }
 
 PracticeMac::~PracticeMac() = default;

@@ -226,8 +226,8 @@ protected:
 
     PreparedAnswers alerts;
     BusyWorkspace workspace{own.workspace};
-    Mac whole{mac.volume,   mac.files,   mac.bookmarks, workspace, mac.tools, mac.notifications,
-              mac.defaults, mac.machine, clock,         alerts,    mac.random};
+    Mac whole{mac.volume,   mac.files,   mac.bookmarks, workspace, mac.tools,  mac.notifications,
+              mac.defaults, mac.machine, clock,         alerts,    mac.random, mac.localNotifications};
     LogRecorder log;
     std::vector<std::string> reports; ///< of failed applications
     const std::vector<LaunchpadItem> firstRows = volume.launchpadItems();

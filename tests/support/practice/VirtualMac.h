@@ -18,8 +18,8 @@ struct VirtualMac {
     practice::PracticeMac practice{volume.root(), {.clock = &clock, .tools = &session}};
     FailingFileManager files{practice.mac().files};
     Mac& own = practice.mac();
-    Mac mac{own.volume,   files,       own.bookmarks, own.workspace, session,   own.notifications,
-            own.defaults, own.machine, clock,         own.alerts,    own.random};
+    Mac mac{own.volume,   files,       own.bookmarks, own.workspace, session,    own.notifications,
+            own.defaults, own.machine, clock,         own.alerts,    own.random, own.localNotifications};
 };
 
 } // namespace tavrik::test
