@@ -1,0 +1,1 @@
+#include "remote/RemoteService.h"

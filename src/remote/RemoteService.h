@@ -1,0 +1,92 @@
+#pragma once
+
+#include "platform/SerialQueue.h"
+#include "remote/AnswerCache.h"
+#include "remote/AnswerHeader.h"
+#include "remote/HttpFetch.h"
+#include "remote/TrustedKeys.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tavrik {
+
+class Clock;
+class UserDefaults;
+
+/// An answer that was signed by us, is meant for this service and is in force.
+struct TrustedAnswer {
+    std::string keyID;
+    AnswerHeader header;
+    QJsonObject payload;
+};
+
+/// Verifies an answer, then reads its header. Pure; any thread.
+RemoteResult<TrustedAnswer> trustedAnswer(ByteView bytes, RemoteKind kind, const std::vector<TrustedKey>& keys,
+                                          const SeenSerials& seen, Date now);
+
+/// One service: what it said last, and asking it anew. The program has one for the texts and one for the
+/// updates. Main thread; the user defaults are read and written on the queue that it is given.
+class RemoteService {
+public:
+    struct With {
+        UserDefaults& defaults;
+        const Clock& clock;
+        SerialQueue& queue; ///< outlives the service
+        std::vector<TrustedKey> keys;
+        HttpOptions http;
+    };
+
+    using Then = std::function<void()>;
+
+    RemoteService(RemoteKind kind, With with);
+
+    /// Ends a request under way.
+    ~RemoteService();
+    RemoteService(const RemoteService&) = delete;
+    RemoteService& operator=(const RemoteService&) = delete;
+
+    /// Reads what was kept. To be done once, before anything else.
+    void load(Then then);
+
+    /// Whether the schedule allows a request now. False before `load` is done and during a request.
+    bool isDue() const;
+
+    /// Sends one request, whatever the schedule says, unless one is under way, which is then waited for. `then`
+    /// comes later, whether it went well or not.
+    void fetch(Then then);
+
+    /// Ends a request under way, and forgets who waits for it.
+    void abort();
+
+    bool isFetching() const { return m_fetch != nullptr; }
+
+    /// The last good answer, while it is in force: verified when it came, and when it was read from the cache.
+    const TrustedAnswer* answer() const;
+
+    /// Why the last request failed; nothing when it went well or there was none.
+    const std::optional<RemoteFailure>& failure() const { return m_kept.failure; }
+
+    const FetchHistory& history() const { return m_kept.history; }
+
+private:
+    void send(const QUrl& url);
+    void received(RemoteResult<HttpAnswer> answer);
+    void finish(std::optional<RemoteProblem> problem);
+
+    RemoteKind m_kind;
+    With m_with;
+    CachedAnswer m_kept;
+    std::optional<TrustedAnswer> m_answer;
+    bool m_isLoaded = false;
+    std::string m_address; ///< of the request under way
+    std::unique_ptr<HttpFetch> m_fetch;
+    std::vector<Then> m_waiting;
+    std::unique_ptr<QObject> m_context; ///< gone, with what the queue answers, when the service is
+};
+
+} // namespace tavrik
