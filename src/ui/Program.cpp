@@ -72,16 +72,14 @@ Program::Program(MacHost& host, WindowAlerts& alerts, SupportFolderLock lock)
       m_managers(host.mac()),
       m_coordinators(m_managers),
       m_delegate(m_managers, m_coordinators, *this),
-      m_model({m_host, m_managers, m_coordinators, m_delegate, m_background, m_images, m_notices}, alerts) {
+      m_endNotice(host.mac().localNotifications),
+      m_model({m_host, m_managers, m_coordinators, m_delegate, m_background, m_images, m_notices, m_endNotice},
+              alerts) {
     m_engine.addImageProvider(QStringLiteral("icon"), new IconProvider(m_managers.iconCache, m_managers.icons));
     m_engine.addImageProvider(QStringLiteral("glyph"), new GlyphProvider);
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QCoreApplication::instance()->installEventFilter(this);
     QCoreApplication::installTranslator(&m_plurals);
-    QObject::connect(m_model.apply(), &ApplyModel::changed, this, [this] {
-        if (m_model.apply()->stage() == ApplyModel::Stage::Result && m_main && !m_main->window()->isActive())
-            m_main->window()->alert(0); // until the person looks
-    });
     QObject::connect(&m_model, &WindowModel::quitAsked, this, &Program::quit);
     m_engine.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
 }

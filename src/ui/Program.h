@@ -8,6 +8,7 @@
 #include "platform/Result.h"
 #include "ui/EnglishPlurals.h"
 #include "ui/models/Background.h"
+#include "ui/models/EndNotice.h"
 #include "ui/models/Images.h"
 #include "ui/models/Notices.h"
 #include "ui/models/WindowModel.h"
@@ -71,6 +72,7 @@ private:
     EnglishPlurals m_plurals;
     Images m_images;
     Notices m_notices;
+    EndNotice m_endNotice;
     Background m_background{m_delegate};
     WindowModel m_model;
     QQmlApplicationEngine m_engine;

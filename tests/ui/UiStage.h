@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MacHost.h"
+#include "platform/LocalNotifications.h"
 #include "platform/Threads.h"
 #include "platform/UserDefaults.h"
 #include "support/LogRecorder.h"
@@ -76,6 +77,12 @@ private:
         Mac& m_mac;
     };
 
+    struct Messages : LocalNotifications {
+        void show(const LocalNotification& notification) override { shown.push_back(notification); }
+
+        std::vector<LocalNotification> shown;
+    };
+
     /// One for all tests of a program: the clock of Qt Quick's animations does not outlive the first.
     static void makeApplication() {
         static int argumentCount = 0;
@@ -93,8 +100,9 @@ private:
 protected:
     LogRecorder log;
     WindowAlerts alerts;
+    Messages messages;
     Mac whole{mac.volume,   mac.files,   mac.bookmarks, mac.workspace, mac.tools,  mac.notifications,
-              mac.defaults, mac.machine, clock,         alerts,        mac.random, mac.localNotifications};
+              mac.defaults, mac.machine, clock,         alerts,        mac.random, messages};
     Host host{whole};
     std::unique_ptr<Program> program;
     bool isWelcomed = true; ///< the page of the first start was seen

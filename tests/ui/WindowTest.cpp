@@ -52,6 +52,41 @@ TEST_F(WindowTest, ShowsThePlanAppliesAndTellsTheResult) {
     EXPECT_EQ(model().stagedCount(), 0);
 }
 
+TEST_F(WindowTest, CallsBackWhoLooksElsewhereWhenSomethingLongEnds) {
+    start();
+    const auto lookElsewhere = [] {
+        QWindow other;
+        other.show();
+    };
+    const auto apply = [&] {
+        program->managers().pendingChanges.setPendingReset(true);
+        model().apply()->begin();
+        ASSERT_TRUE(waitFor([&] { return model().apply()->stage() == ApplyModel::Stage::Plan; }));
+        lookElsewhere();
+        model().apply()->apply();
+        ASSERT_TRUE(waitFor([&] { return model().apply()->stage() == ApplyModel::Stage::Result; }, 60'000));
+        model().apply()->close();
+    };
+    apply();
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0].title, "Your changes are applied");
+    EXPECT_FALSE(messages.shown[0].text.empty());
+
+    BackupsPage& backups = *model().backups();
+    backups.refresh();
+    ASSERT_TRUE(waitFor([&] { return backups.currentRow() >= 0; }));
+    const auto restore = [&] {
+        backups.restore();
+        ASSERT_TRUE(waitFor([&] { return !backups.work()->isBusy(); }, 60'000));
+    };
+    restore();
+    ASSERT_EQ(messages.shown.size(), 2U);
+    EXPECT_EQ(messages.shown[1].title, "Your backup is restored");
+    window()->requestActivate();
+    restore();
+    EXPECT_EQ(messages.shown.size(), 2U) << "the window tells it";
+}
+
 TEST_F(WindowTest, AsksBeforeItClosesWithStagedChanges) {
     start();
     program->managers().pendingChanges.setPendingFont("Small Caps");

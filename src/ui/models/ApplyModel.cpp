@@ -8,6 +8,7 @@
 #include "platform/Mac.h"
 #include "platform/Workspace.h"
 #include "ui/models/Background.h"
+#include "ui/models/EndNotice.h"
 #include "ui/models/Notices.h"
 #include "ui/models/Text.h"
 
@@ -156,6 +157,8 @@ void ApplyModel::show(const Planned& planned) {
         return;
     m_summary = summaryOf(planned.preview.plan, planned.names);
     m_details = detailsOf(planned.preview.plan.changes, planned.names);
+    m_plannedApps = static_cast<int>(planned.preview.plan.created.size() + planned.preview.plan.updated.size() +
+                                     planned.preview.plan.removed.size());
     m_obstacles = toQStrings(planned.preview.obstacles);
     m_runningApps.clear();
     m_runningIDs.clear();
@@ -219,6 +222,16 @@ void ApplyModel::finish(const ApplyResult& result) {
         break;
     }
     setStage(Stage::Result);
+    tellTheEnd();
+}
+
+void ApplyModel::tellTheEnd() const {
+    if (!m_isClean)
+        return m_with.endNotice.tell(m_headline, m_remarks.value(0));
+    m_with.endNotice.tell(tr("Your changes are applied"),
+                          m_plannedApps > 0
+                              ? tr("%n app(s) changed in Launchpad and the Dock.", nullptr, m_plannedApps)
+                              : tr("Launchpad and the Dock look as you chose."));
 }
 
 void ApplyModel::close() {

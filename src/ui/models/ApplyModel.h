@@ -88,6 +88,7 @@ private:
     void plan();
     void show(const Planned& planned);
     void finish(const ApplyResult& result);
+    void tellTheEnd() const;
     void setStage(Stage stage);
 
     const UiServices m_with;
@@ -98,6 +99,7 @@ private:
     QStringList m_obstacles;
     QStringList m_runningApps;
     std::vector<std::string> m_runningIDs;
+    int m_plannedApps = 0; ///< that look different afterwards
     bool m_isClean = true;
     QString m_headline;
     QStringList m_remarks;

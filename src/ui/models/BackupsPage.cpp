@@ -6,6 +6,7 @@
 #include "platform/Mac.h"
 #include "ui/models/Amounts.h"
 #include "ui/models/Background.h"
+#include "ui/models/EndNotice.h"
 #include "ui/models/Text.h"
 
 #include <algorithm>
@@ -193,13 +194,15 @@ void BackupsPage::restore() {
         [this](const Result<std::string>& before) {
             refresh();
             if (!before)
-                return m_work.fail(toQString(before.error().description));
-            m_work.tell(
-                before->empty()
-                    ? tr("Launchpad and the Dock are as in this backup. What was there before could not "
-                         "be backed up: its files were missing or damaged.")
-                    : tr("Launchpad and the Dock are as in this backup. What was there before is the "
-                         "newest backup now."));
+                m_work.fail(toQString(before.error().description));
+            else if (before->empty())
+                m_work.tell(tr("Launchpad and the Dock are as in this backup. What was there before could not "
+                               "be backed up: its files were missing or damaged."));
+            else
+                m_work.tell(tr("Launchpad and the Dock are as in this backup. What was there before is the "
+                               "newest backup now."));
+            m_with.endNotice.tell(before ? tr("Your backup is restored") : tr("Your backup was not restored"),
+                                  m_work.remark());
         });
 }
 

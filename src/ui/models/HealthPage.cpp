@@ -5,6 +5,7 @@
 #include "app/SharedCoordinators.h"
 #include "maintenance/HealthCheck.h"
 #include "maintenance/HealthRepair.h"
+#include "ui/models/EndNotice.h"
 #include "ui/models/Images.h"
 #include "ui/models/Text.h"
 
@@ -125,6 +126,7 @@ void HealthPage::showMended(const HealthRepair& repair) {
     if (repair.hasStaged)
         remarks.append(tr("Something is staged: apply it, and everything looks as before."));
     m_work.tell(remarks.join(QLatin1Char(' ')));
+    m_with.endNotice.tell(m_headline, m_work.remark());
     m_with.coordinators.refresh();
     m_with.images.raiseRevision();
     Q_EMIT changed();

@@ -4,6 +4,7 @@
 #include "app/MacHost.h"
 #include "app/Managers.h"
 #include "ui/models/Amounts.h"
+#include "ui/models/EndNotice.h"
 #include "ui/models/Text.h"
 
 namespace tavrik {
@@ -84,14 +85,19 @@ void LeavingPage::takeBack() {
 }
 
 void LeavingPage::finish(const Result<RemoveEverything::Outcome>& outcome) {
-    if (!outcome)
-        return m_work.fail(tr("Nothing was changed. %1").arg(toQString(outcome.error().description)));
+    if (!outcome) {
+        m_work.fail(tr("Nothing was changed. %1").arg(toQString(outcome.error().description)));
+        return m_with.endNotice.tell(tr("Nothing is taken back"), m_work.remark());
+    }
     m_done = toQStrings(outcome->done);
     if (!outcome->backup.empty())
         m_done.append(
             tr("What was there before, but for restyled apps and styled names, is the newest backup now."));
     m_traces = toQStrings(outcome->traces);
     setStage(m_traces.isEmpty() ? Stage::TakenBack : Stage::Unfinished);
+    m_with.endNotice.tell(
+        m_traces.isEmpty() ? tr("Everything is taken back") : tr("Not everything is taken back"),
+        m_traces.isEmpty() ? tr("Launchpad and the Dock look as they did without Tavrik.") : m_traces.front());
     refresh();
 }
 

@@ -4,6 +4,7 @@ namespace tavrik {
 
 class AppDelegate;
 class Background;
+class EndNotice;
 class Images;
 class MacHost;
 class Notices;
@@ -19,6 +20,7 @@ struct UiServices {
     Background& background;
     Images& images;
     Notices& notices;
+    EndNotice& endNotice;
 };
 
 } // namespace tavrik
