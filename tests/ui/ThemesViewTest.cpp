@@ -315,13 +315,21 @@ TEST_F(ThemesViewTest, TakesPicturesByTheTileOrByTheirNames) {
     EXPECT_THAT(model().notices()->text().toStdString(), HasSubstr("letter.pdf"));
 }
 
-TEST_F(ThemesViewTest, RemembersHowPreviewsAreLaidOut) {
+TEST_F(ThemesViewTest, LaysPreviewsOutAsTheSettingsWindowSaysAndRemembersIt) {
     startWithTheme();
-    page().setShowsGrid(true);
-    page().setShowsFileNames(true);
+    model().openSettings();
+    model().preferences()->setTab(PreferencesPage::Tab::Themes);
+    for (const char* const name : {"themes-grid", "themes-names"})
+        ASSERT_TRUE(waitFor([&] { return Stagehand::click(QString::fromLatin1(name)); })) << name;
+    QQuickItem* const library = window()->contentItem();
+    EXPECT_TRUE(findIn(library, QStringLiteral("previewStyle"))->property("value").toBool());
+    EXPECT_TRUE(findIn(library, QStringLiteral("showFileNames"))->property("checked").toBool());
+    ASSERT_TRUE(Stagehand::click(findIn(library, QStringLiteral("showFileNames"))));
+    EXPECT_FALSE(Stagehand::find(QStringLiteral("themes-names"))->property("checked").toBool());
+    model().preferences()->themeLook()->setShowsFileNames(true);
     offMain([] {});
     startEmpty();
-    EXPECT_TRUE(waitFor([&] { return page().showsGrid() && page().showsFileNames(); }));
+    EXPECT_TRUE(waitFor([&] { return page().look()->showsGrid() && page().look()->showsFileNames(); }));
 }
 
 } // namespace tavrik::test

@@ -43,11 +43,9 @@ std::vector<IconShapesModel::Row> readRows(Managers& managers) {
 
 } // namespace
 
-PreferencesPage::PreferencesPage(const UiServices& with)
+PreferencesPage::PreferencesPage(const UiServices& with, ThemeLook& themeLook)
     : m_with(with),
-      m_themePreview(with.managers.applyServices.mac.defaults),
-      m_showsGrid(m_themePreview.previewStyle() == ThemePreviewStyle::grid),
-      m_showsFileNames(m_themePreview.showsFileNames()) {
+      m_themeLook(themeLook) {
     for (const std::string_view name : {kReloadApplicationsAfterApply, kReloadApplicationsAfterBackupRestore}) {
         m_observations.push_back(with.managers.notificationCenter.observe(std::string(name), [this] {
             if (m_areShapesLoaded)
@@ -71,31 +69,6 @@ void PreferencesPage::open() {
         setTab(Tab::Backups);
         ignoreFailure(defaults.set(kOpenBackupExplorer, std::nullopt));
     }
-}
-
-void PreferencesPage::setShowsGrid(bool shows) {
-    m_showsGrid = shows;
-    Q_EMIT changed();
-    m_with.background.run(
-        this,
-        [settings = m_themePreview,
-         style = shows ? ThemePreviewStyle::grid : ThemePreviewStyle::scattered]() mutable {
-            settings.setPreviewStyle(style);
-            return settings.previewStyle() == style;
-        },
-        [this](bool isSaved) { saved(isSaved); });
-}
-
-void PreferencesPage::setShowsFileNames(bool shows) {
-    m_showsFileNames = shows;
-    Q_EMIT changed();
-    m_with.background.run(
-        this,
-        [settings = m_themePreview, shows]() mutable {
-            settings.setShowsFileNames(shows);
-            return settings.showsFileNames() == shows;
-        },
-        [this](bool isSaved) { saved(isSaved); });
 }
 
 void PreferencesPage::readShapes() {

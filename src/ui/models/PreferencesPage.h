@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/NotificationCenter.h"
-#include "themes/ThemePreviewSettingsManager.h"
 #include "ui/models/IconShapesModel.h"
+#include "ui/models/ThemeLook.h"
 #include "ui/models/UiServices.h"
 
 #include <QObject>
@@ -20,8 +20,7 @@ class PreferencesPage : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
     Q_PROPERTY(Tab tab READ tab WRITE setTab NOTIFY tabChanged)
-    Q_PROPERTY(bool showsGrid READ showsGrid WRITE setShowsGrid NOTIFY changed) ///< else scattered
-    Q_PROPERTY(bool showsFileNames READ showsFileNames WRITE setShowsFileNames NOTIFY changed)
+    Q_PROPERTY(tavrik::ThemeLook* themeLook READ themeLook CONSTANT)
     Q_PROPERTY(tavrik::IconShapesModel* shapes READ shapes CONSTANT)
     Q_PROPERTY(bool areShapesLoaded READ areShapesLoaded NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed) ///< something could not be saved, in a sentence
@@ -30,19 +29,13 @@ public:
     enum class Tab { Backups, Themes, Icons, Health, Leave };
     Q_ENUM(Tab)
 
-    explicit PreferencesPage(const UiServices& with);
+    PreferencesPage(const UiServices& with, ThemeLook& themeLook);
 
     Tab tab() const { return m_tab; }
 
     void setTab(Tab tab);
 
-    bool showsGrid() const { return m_showsGrid; }
-
-    void setShowsGrid(bool shows);
-
-    bool showsFileNames() const { return m_showsFileNames; }
-
-    void setShowsFileNames(bool shows);
+    ThemeLook* themeLook() { return &m_themeLook; }
 
     IconShapesModel* shapes() { return &m_shapes; }
 
@@ -64,11 +57,9 @@ private:
     void saved(bool isSaved);
 
     const UiServices m_with;
-    ThemePreviewSettingsManager m_themePreview;
+    ThemeLook& m_themeLook;
     IconShapesModel m_shapes;
     Tab m_tab = Tab::Backups;
-    bool m_showsGrid;
-    bool m_showsFileNames;
     bool m_areShapesLoaded = false;
     QString m_problem;
     std::vector<NotificationCenter::Observation> m_observations;

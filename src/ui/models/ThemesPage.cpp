@@ -8,14 +8,13 @@
 #include "ui/models/Text.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace tavrik {
 
-ThemesPage::ThemesPage(const UiServices& with)
+ThemesPage::ThemesPage(const UiServices& with, ThemeLook& look)
     : m_with(with),
-      m_settings(with.managers.applyServices.mac.defaults),
+      m_look(look),
       m_shelf(with),
       m_library(m_shelf, with.managers.pendingChanges),
       m_theme(with, m_shelf, m_work),
@@ -25,32 +24,12 @@ ThemesPage::ThemesPage(const UiServices& with)
 }
 
 void ThemesPage::open() {
-    m_with.background.run(
-        this, [settings = m_settings] { return std::pair(settings.previewStyle(), settings.showsFileNames()); },
-        [this](std::pair<ThemePreviewStyle, bool> remembered) {
-            std::tie(m_style, m_showsFileNames) = remembered;
-            Q_EMIT changed();
-        });
     m_shelf.open();
 }
 
 void ThemesPage::update() {
     m_library.update();
     Q_EMIT changed();
-}
-
-void ThemesPage::setShowsGrid(bool shows) {
-    m_style = shows ? ThemePreviewStyle::grid : ThemePreviewStyle::scattered;
-    Q_EMIT changed();
-    m_with.background.run(
-        this, [settings = m_settings, style = m_style]() mutable { settings.setPreviewStyle(style); }, [] {});
-}
-
-void ThemesPage::setShowsFileNames(bool shows) {
-    m_showsFileNames = shows;
-    Q_EMIT changed();
-    m_with.background.run(
-        this, [settings = m_settings, shows]() mutable { settings.setShowsFileNames(shows); }, [] {});
 }
 
 void ThemesPage::setCreating(bool isCreating) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "themes/ThemePreviewSettingsManager.h"
 #include "ui/models/FolderImportModel.h"
 #include "ui/models/OneTheme.h"
+#include "ui/models/ThemeLook.h"
 #include "ui/models/ThemeShelf.h"
 #include "ui/models/ThemeWork.h"
 #include "ui/models/ThemesModel.h"
@@ -28,13 +28,12 @@ class ThemesPage : public QObject {
     Q_PROPERTY(tavrik::FolderImportModel* folderImport READ folderImport CONSTANT)
     Q_PROPERTY(tavrik::ThemeWork* work READ work CONSTANT)
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
-    Q_PROPERTY(bool showsGrid READ showsGrid WRITE setShowsGrid NOTIFY changed) ///< else scattered
-    Q_PROPERTY(bool showsFileNames READ showsFileNames WRITE setShowsFileNames NOTIFY changed)
+    Q_PROPERTY(tavrik::ThemeLook* look READ look CONSTANT)
     Q_PROPERTY(bool isCreating READ isCreating WRITE setCreating NOTIFY changed) ///< the sheet is shown
     Q_PROPERTY(QString createProblem READ createProblem NOTIFY changed)          ///< why no theme was made
 
 public:
-    explicit ThemesPage(const UiServices& with);
+    ThemesPage(const UiServices& with, ThemeLook& look);
 
     ThemesModel* library() { return &m_library; }
 
@@ -46,13 +45,7 @@ public:
 
     bool isLoaded() const { return m_shelf.isLoaded(); }
 
-    bool showsGrid() const { return m_style == ThemePreviewStyle::grid; }
-
-    void setShowsGrid(bool shows);
-
-    bool showsFileNames() const { return m_showsFileNames; }
-
-    void setShowsFileNames(bool shows);
+    ThemeLook* look() { return &m_look; }
 
     bool isCreating() const { return m_isCreating; }
 
@@ -92,14 +85,12 @@ private:
     void update();
 
     const UiServices m_with;
-    ThemePreviewSettingsManager m_settings;
+    ThemeLook& m_look;
     ThemeShelf m_shelf;
     ThemeWork m_work;
     ThemesModel m_library;
     OneTheme m_theme;
     FolderImportModel m_folderImport;
-    ThemePreviewStyle m_style = ThemePreviewStyle::scattered;
-    bool m_showsFileNames = false;
     bool m_isCreating = false;
     QString m_createProblem;
 };

@@ -22,7 +22,8 @@ WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
     : m_with(with),
       m_alerts(alerts),
       m_applications(with),
-      m_themes(with),
+      m_themeLook(with),
+      m_themes(with, m_themeLook),
       m_fonts(with),
       m_preview(with),
       m_apply(with),
@@ -30,7 +31,7 @@ WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
       m_backups(with),
       m_health(with),
       m_leaving(with),
-      m_preferences(with),
+      m_preferences(with, m_themeLook),
       m_isFirstStart(!with.host.mac().defaults.value(kWelcomed)),
       m_menus(*this, with.delegate) {
     qGuiApp->installEventFilter(this);

@@ -154,6 +154,7 @@ private:
     const UiServices m_with;
     WindowAlerts& m_alerts;
     ApplicationsPage m_applications;
+    ThemeLook m_themeLook;
     ThemesPage m_themes;
     FontsPage m_fonts;
     PreviewModel m_preview;

@@ -78,20 +78,20 @@ QQuickWindow* applied(Program& program) {
 
 QQuickWindow* grid(Program& program) {
     QQuickWindow* const window = filledLibrary(program);
-    pageOf(program).setShowsGrid(true);
+    pageOf(program).look()->setShowsGrid(true);
     return window;
 }
 
 QQuickWindow* gridWithNames(Program& program) {
     QQuickWindow* const window = grid(program);
-    pageOf(program).setShowsFileNames(true);
+    pageOf(program).look()->setShowsFileNames(true);
     return window;
 }
 
 QQuickWindow* refusedName(Program& program) {
     QQuickWindow* const window = filledLibrary(program);
-    pageOf(program).setShowsFileNames(false);
-    pageOf(program).setShowsGrid(false);
+    pageOf(program).look()->setShowsFileNames(false);
+    pageOf(program).look()->setShowsGrid(false);
     pageOf(program).setCreating(true);
     Stagehand::waitFor([] { return Stagehand::find(QStringLiteral("themeName")) != nullptr; });
     Stagehand::type(window, QStringLiteral("Graphite"));

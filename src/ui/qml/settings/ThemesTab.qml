@@ -6,6 +6,7 @@ Item {
     id: view
 
     required property PreferencesPage preferences
+    readonly property ThemeLook look: preferences.themeLook
 
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
@@ -29,14 +30,14 @@ Item {
                 name: "themes-scattered"
                 text: qsTr("Scattered")
                 isScattered: true
-                isChosen: !view.preferences.showsGrid
-                onChosen: view.preferences.showsGrid = false
+                isChosen: !view.look.showsGrid
+                onChosen: view.look.showsGrid = false
             }
             ThemePreviewChoice {
                 name: "themes-grid"
                 text: qsTr("In a grid")
-                isChosen: view.preferences.showsGrid
-                onChosen: view.preferences.showsGrid = true
+                isChosen: view.look.showsGrid
+                onChosen: view.look.showsGrid = true
             }
         }
         CheckRow {
@@ -45,10 +46,10 @@ Item {
             objectName: "themes-names"
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Show the file names below the icons")
-            checked: view.preferences.showsFileNames
+            checked: view.look.showsFileNames
             onClicked: {
-                view.preferences.showsFileNames = checked
-                checked = Qt.binding(() => view.preferences.showsFileNames)
+                view.look.showsFileNames = checked
+                checked = Qt.binding(() => view.look.showsFileNames)
             }
         }
         Label {
@@ -56,7 +57,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             visible: text
-            text: view.preferences.problem
+            text: view.look.problem
             color: Style.warning
         }
     }

@@ -28,8 +28,8 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         theme: view.theme
-        showsFileNames: view.page.showsFileNames
-        onFileNamesToggled: shows => view.page.showsFileNames = shows
+        showsFileNames: view.page.look.showsFileNames
+        onFileNamesToggled: shows => view.page.look.showsFileNames = shows
     }
     DropArea {
         anchors.top: filters.bottom
@@ -60,7 +60,7 @@ Item {
             keyNavigationEnabled: true
             boundsBehavior: Flickable.StopAtBounds
             cellWidth: Math.floor((width - leftMargin - rightMargin) / columns)
-            cellHeight: view.theme.isEditing ? 168 : view.page.showsFileNames ? 148 : 132
+            cellHeight: view.theme.isEditing ? 168 : view.page.look.showsFileNames ? 148 : 132
             model: view.theme.icons
             C.ScrollBar.vertical: C.ScrollBar {
                 policy: grid.contentHeight > grid.height ? C.ScrollBar.AsNeeded : C.ScrollBar.AlwaysOff
@@ -72,7 +72,7 @@ Item {
             delegate: ThemeIconTile {
                 theme: view.theme
                 images: view.images
-                showsFileNames: view.page.showsFileNames
+                showsFileNames: view.page.look.showsFileNames
                 isBusy: view.page.work.isRunning
                 width: grid.cellWidth
                 height: grid.cellHeight

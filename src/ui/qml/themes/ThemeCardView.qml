@@ -56,16 +56,16 @@ Item {
         ScatteredPreview {
             anchors.fill: parent
             opacity: card.isToBeRemoved ? 0.3 : 1
-            paths: card.page.showsGrid ? [] : card.preview
+            paths: card.page.look.showsGrid ? [] : card.preview
             images: card.images
             arrangement: card.index
         }
         GridPreview {
             anchors.fill: parent
             opacity: card.isToBeRemoved ? 0.3 : 1
-            paths: card.page.showsGrid ? card.preview : []
+            paths: card.page.look.showsGrid ? card.preview : []
             images: card.images
-            showsFileNames: card.page.showsFileNames
+            showsFileNames: card.page.look.showsFileNames
         }
         Label {
             anchors.centerIn: parent

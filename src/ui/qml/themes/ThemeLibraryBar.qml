@@ -22,15 +22,15 @@ Item {
             objectName: "previewStyle"
             name: qsTr("Preview style")
             segments: [{ text: qsTr("Scattered"), value: false }, { text: qsTr("Grid"), value: true }]
-            value: bar.page.showsGrid
-            onChosen: value => bar.page.showsGrid = value
+            value: bar.page.look.showsGrid
+            onChosen: value => bar.page.look.showsGrid = value
         }
         CheckRow {
             objectName: "showFileNames"
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Show file names")
-            checked: bar.page.showsFileNames
-            onToggled: bar.page.showsFileNames = checked
+            checked: bar.page.look.showsFileNames
+            onToggled: bar.page.look.showsFileNames = checked
         }
     }
     Row {
