@@ -4,6 +4,7 @@
 #include "remote/RemoteProblem.h"
 
 #include <QList>
+#include <QNetworkProxy>
 #include <QSslCertificate>
 #include <QUrl>
 
@@ -20,7 +21,12 @@ namespace tavrik {
 struct HttpRequest {
     QUrl url;                                                 ///< acceptable, see Endpoint.h
     std::vector<std::pair<std::string, std::string>> headers; ///< beside "Host"
+    QNetworkProxy proxy = QNetworkProxy::NoProxy;             ///< see `systemProxyFor`
 };
+
+/// The proxy that the system wants for this address; none for this machine itself. May block, where the system
+/// runs a script to find out: background only.
+QNetworkProxy systemProxyFor(const QUrl& url);
 
 struct HttpAnswer {
     int status = 0; ///< 200 or 304

@@ -39,8 +39,12 @@ public:
     /// Counts a start of the window, and reads.
     NetworkChoice countStart();
 
-    /// False, with a log line, when it could not be written.
+    /// Keeps whether the person was asked and which services they want, and leaves the switch for good as it
+    /// is. False, with a log line, when it could not be written.
     [[nodiscard]] bool write(const NetworkChoice& choice);
+
+    /// Likewise, the switch for good alone.
+    [[nodiscard]] bool writeOffForGood(bool isOff);
 
 private:
     UserDefaults& m_defaults;

@@ -39,6 +39,8 @@ public:
         SerialQueue& queue; ///< outlives the service
         std::vector<TrustedKey> keys;
         HttpOptions http;
+        /// Whether this version can read a payload. One that it cannot is not kept.
+        std::function<bool(const QJsonObject&)> isUnderstood = [](const QJsonObject&) { return true; };
     };
 
     using Then = std::function<void()>;
@@ -63,7 +65,7 @@ public:
     /// Ends a request under way, and forgets who waits for it.
     void abort();
 
-    bool isFetching() const { return m_fetch != nullptr; }
+    bool isFetching() const { return m_request != nullptr; }
 
     /// The last good answer, while it is in force: verified when it came, and when it was read from the cache.
     const TrustedAnswer* answer() const;
@@ -74,19 +76,27 @@ public:
     const FetchHistory& history() const { return m_kept.history; }
 
 private:
-    void send(const QUrl& url);
+    /// One request, from looking up where to send it to on. What belongs to it ends with it.
+    struct Request : QObject {
+        std::string address;
+        std::unique_ptr<HttpFetch> fetch;
+    };
+
+    void take(CachedAnswer kept);
+    void send(const QUrl& url, const QNetworkProxy& proxy);
     void received(RemoteResult<HttpAnswer> answer);
-    void finish(std::optional<RemoteProblem> problem);
+    std::optional<RemoteProblem> accept(HttpAnswer answer);
+    void finish(const std::optional<RemoteProblem>& problem);
+    void note(FetchHistory& history, bool isGood) const;
 
     RemoteKind m_kind;
     With m_with;
     CachedAnswer m_kept;
     std::optional<TrustedAnswer> m_answer;
     bool m_isLoaded = false;
-    std::string m_address; ///< of the request under way
-    std::unique_ptr<HttpFetch> m_fetch;
     std::vector<Then> m_waiting;
-    std::unique_ptr<QObject> m_context; ///< gone, with what the queue answers, when the service is
+    QObject m_context; ///< with it ends what the queue would hand to the service
+    std::unique_ptr<Request> m_request;
 };
 
 } // namespace tavrik

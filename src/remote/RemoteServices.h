@@ -1,16 +1,20 @@
 #pragma once
 
+#include "platform/MainQueue.h"
+#include "platform/SerialQueue.h"
 #include "remote/InterfaceTexts.h"
 #include "remote/NetworkConsent.h"
 #include "remote/RemoteService.h"
 #include "remote/UpdateCheck.h"
 
+#include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tavrik {
@@ -31,6 +35,8 @@ struct UpdateStatus {
     Stage stage = Stage::unknown;
     bool isAsked =
         false; ///< a person asked for it, who is owed an answer; else only an available release is shown
+    bool isOffered =
+        false; ///< `finding` has a release for this system that the person has not put off in this run
     UpdateFinding finding;
     std::optional<RemoteFailure> failure;
 
@@ -107,27 +113,41 @@ public:
     /// Never offers the release that `updates` shows, nor an older one, unless the person asks for a check.
     void skipVersion();
 
-    /// The person has seen the answer to their check.
+    /// The person has seen the answer to their check, or does not want the offered release now: it is not
+    /// offered again before the next start, unless they ask.
     void dismissUpdate();
 
 private:
-    RemoteService& service(RemoteKind kind);
-    void apply(NetworkChoice choice);
+    /// Runs `work` on the queue and hands its answer to `then` on the main thread, unless this is gone by then.
+    template<typename Work, typename Then>
+    void onQueue(Work work, Then then) {
+        m_queue.async(
+            [context = QPointer<QObject>(&m_context), work = std::move(work), then = std::move(then)] {
+                MainQueue::async(context, [answer = work(), then] { then(answer); });
+            });
+    }
+
+    void ready();
+    void fetchUpdates();
+    void apply(const NetworkChoice& choice, std::function<bool(NetworkConsent&)> save);
     void showTexts();
     void showUpdates();
+    void failUpdates(RemoteFailure failure);
     void changed();
 
     Ports m_ports;
     Options m_options;
     std::function<void()> m_changed;
+    bool m_isStarted = false;
     bool m_isReady = false;
     bool m_isChoiceSaved = true;
     NetworkChoice m_choice;
     std::optional<ProgramVersion> m_skipped;
+    std::optional<ProgramVersion> m_putOff; ///< for this run
     InterfaceTexts m_texts;
     UpdateStatus m_updates;
     QTimer m_hourly;
-    std::unique_ptr<QObject> m_context;
+    QObject m_context;
     SerialQueue m_queue{"com.tavrik.remote"};
     RemoteService m_textService;
     RemoteService m_updateService;

@@ -2,14 +2,14 @@
 
 #include <array>
 #include <cstdint>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace tavrik {
 
 /// The public half of an Ed25519 key that answers may be signed with.
 struct TrustedKey {
-    std::string_view id; ///< letters, digits, "-" and "."; never used again for another key
+    std::string id; ///< letters, digits, "-" and "."; never used again for another key
     std::array<std::uint8_t, 32> bytes;
 };
 
