@@ -1,4 +1,7 @@
-#include "practice/furnish/ProgramIcon.h"
+#include "practice/art/ProgramIcon.h"
+
+#include "practice/art/OutlinePath.h"
+#include "practice/art/SoftShadow.h"
 
 #include <QColor>
 #include <QLinearGradient>
@@ -7,9 +10,7 @@
 #include <QRadialGradient>
 #include <QTransform>
 
-#include <cmath>
 #include <initializer_list>
-#include <numbers>
 #include <utility>
 
 namespace tavrik::practice {
@@ -19,24 +20,23 @@ namespace {
 /// Everything is drawn on a canvas of 1024 units.
 constexpr double kCanvas = 1024;
 
-/// A square with smoothly bent sides around a centre.
-QPainterPath tile(QPointF centre, double halfWidth) {
-    constexpr int kPoints = 240;
-    constexpr double kBend = 5; // exponent of the superellipse
-    QPainterPath path;
-    for (int point = 0; point < kPoints; ++point) {
-        const double angle = 2 * std::numbers::pi * point / kPoints;
-        const auto bent = [&](double part) {
-            return std::copysign(std::pow(std::abs(part), 2 / kBend), part) * halfWidth;
-        };
-        const QPointF corner = centre + QPointF(bent(std::cos(angle)), bent(std::sin(angle)));
-        if (point == 0)
-            path.moveTo(corner);
-        else
-            path.lineTo(corner);
-    }
-    path.closeSubpath();
-    return path;
+/// What differs where few pixels are left: shapes are larger, and what would only blur is left out.
+struct Design {
+    double plate; ///< half its width
+    double sheet; ///< half its width
+    double fold;  ///< the fold runs along x + y = fold; what lies beyond it is turned over
+    bool depth;   ///< shadows and rims
+};
+
+constexpr Design kFull{412, 276, 1112, true};
+constexpr Design kSmall{448, 320, 1120, false};
+
+Design designFor(int points) {
+    return points <= 32 ? kSmall : kFull;
+}
+
+QPainterPath tile(double halfWidth) {
+    return superellipse(QRectF(kCanvas / 2 - halfWidth, kCanvas / 2 - halfWidth, 2 * halfWidth, 2 * halfWidth));
 }
 
 QLinearGradient along(QPointF from, QPointF to, std::initializer_list<std::pair<double, QColor>> stops) {
@@ -46,58 +46,124 @@ QLinearGradient along(QPointF from, QPointF to, std::initializer_list<std::pair<
     return gradient;
 }
 
-/// The fold runs along x + y = kFold; what lies beyond it is turned over.
-constexpr double kFold = 1180;
-
-QPainterPath beyondFold() {
-    QPainterPath path(QPointF(kCanvas, kFold - kCanvas));
+QPainterPath beyond(double fold) {
+    QPainterPath path(QPointF(kCanvas, fold - kCanvas));
     path.lineTo(kCanvas, kCanvas);
-    path.lineTo(kFold - kCanvas, kCanvas);
+    path.lineTo(fold - kCanvas, kCanvas);
     path.closeSubpath();
     return path;
 }
 
-/// Mirrors at the fold.
-QTransform turnedOver() {
-    return QTransform(0, -1, -1, 0, kFold, kFold);
+QTransform mirroredAt(double fold) {
+    return QTransform(0, -1, -1, 0, fold, fold);
+}
+
+/// Shadows below shapes of the canvas, where the design has any.
+class Shade {
+public:
+    Shade(QPainter& painter, int size) : m_painter(painter), m_size(size) {}
+
+    void below(const QPainterPath& shape, QPointF offset, double blur, const QColor& colour) {
+        QImage picture(m_size, m_size, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(m_size / kCanvas, m_size / kCanvas);
+        painter.fillPath(shape, Qt::black);
+        painter.end();
+        drawSoftShadow(m_painter, QRectF(offset, QSizeF(kCanvas, kCanvas)), picture, blur * m_size / kCanvas,
+                       colour);
+    }
+
+private:
+    QPainter& m_painter;
+    int m_size;
+};
+
+/// A thin line of light along the inside of a shape's upper edge.
+void drawRim(QPainter& painter, const QPainterPath& shape, double width, int strength) {
+    painter.save();
+    painter.setClipPath(shape, Qt::IntersectClip);
+    const QRectF bounds = shape.boundingRect();
+    painter.strokePath(shape,
+                       QPen(along(bounds.topLeft(), bounds.bottomLeft(),
+                                  {{0, QColor(255, 255, 255, strength)}, {0.5, QColor(255, 255, 255, 0)}}),
+                            2 * width));
+    painter.restore();
+}
+
+void drawPlate(QPainter& painter, const QPainterPath& plate) {
+    painter.fillPath(plate,
+                     along({300, 100}, {720, 930},
+                           {{0, QColor(92, 78, 196)}, {0.55, QColor(52, 40, 122)}, {1, QColor(28, 20, 74)}}));
+    QRadialGradient glow(300, 160, 640);
+    glow.setColorAt(0, QColor(168, 150, 255, 120));
+    glow.setColorAt(1, QColor(168, 150, 255, 0));
+    painter.fillPath(plate, glow);
+    // The colours of the sheet shine onto the plate.
+    QRadialGradient shine(720, 760, 400);
+    shine.setColorAt(0, QColor(255, 96, 140, 90));
+    shine.setColorAt(1, QColor(255, 96, 140, 0));
+    painter.fillPath(plate, shine);
 }
 
 } // namespace
 
-QImage drawProgramIcon(int size) {
+QImage drawProgramIcon(int size, int points) {
+    const Design design = designFor(points);
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.scale(size / kCanvas, size / kCanvas);
     painter.setPen(Qt::NoPen);
+    Shade shade(painter, size);
 
-    const QPainterPath ground = tile({512, 512}, 412);
-    painter.fillPath(ground,
-                     along({200, 140}, {830, 890}, {{0, QColor(58, 46, 122)}, {1, QColor(24, 18, 60)}}));
-    painter.setClipPath(ground);
-    QRadialGradient glow(320, 220, 620);
-    glow.setColorAt(0, QColor(150, 130, 255, 110));
-    glow.setColorAt(1, QColor(150, 130, 255, 0));
-    painter.fillPath(ground, glow);
+    const QPainterPath plate = tile(design.plate);
+    const QPainterPath sheet = tile(design.sheet);
+    const QPainterPath plain = sheet.subtracted(beyond(design.fold));
+    const QPainterPath bare = sheet.intersected(beyond(design.fold));
+    const QPainterPath flap = mirroredAt(design.fold).map(bare);
+    const double half = design.fold / 2;
+    const QRectF bounds = flap.boundingRect();
 
-    const QPainterPath sheet = tile({512, 512}, 268);
-    painter.fillPath(sheet.translated(0, 20), QColor(8, 4, 30, 90));
-    painter.fillPath(sheet, along({440, 780}, {780, 440},
-                                  {{0, QColor(255, 190, 84)},
-                                   {0.4, QColor(255, 98, 96)},
-                                   {0.7, QColor(226, 62, 150)},
-                                   {1, QColor(126, 70, 230)}}));
+    if (design.depth)
+        shade.below(plate, {0, 12}, 26, QColor(0, 0, 0, 110));
+    drawPlate(painter, plate);
+    if (design.depth)
+        drawRim(painter, plate, 4, 90);
 
-    const QPainterPath plain = sheet.subtracted(beyondFold());
-    painter.fillPath(plain, along({260, 260}, {620, 620}, {{0, Qt::white}, {1, QColor(220, 224, 238)}}));
+    painter.setClipPath(plate);
+    if (design.depth)
+        shade.below(sheet, {0, 22}, 40, QColor(10, 4, 40, 170));
+    painter.fillPath(sheet, along({half - 150, half + 250}, {half + 250, half - 150},
+                                  {{0, QColor(255, 196, 70)},
+                                   {0.34, QColor(255, 112, 84)},
+                                   {0.66, QColor(238, 60, 146)},
+                                   {1, QColor(134, 78, 246)}}));
+    painter.setClipPath(bare);
+    if (design.depth)
+        shade.below(plain.united(flap), {6, 6}, 34, QColor(70, 0, 60, 150));
 
-    const QPainterPath corner = turnedOver().map(sheet.intersected(beyondFold()));
+    painter.setClipPath(plate);
+    painter.fillPath(plain, along({280, 250}, {600, 620}, {{0, Qt::white}, {1, QColor(214, 216, 238)}}));
+    if (design.depth)
+        drawRim(painter, plain, 3, 255);
+
     painter.setClipPath(plain);
-    painter.fillPath(corner.translated(-10, -10), QColor(50, 40, 110, 40));
-    painter.setClipPath(ground);
-    painter.fillPath(corner, along({440, 440}, {kFold / 2, kFold / 2},
-                                   {{0, QColor(214, 218, 234)}, {0.6, Qt::white}, {1, QColor(196, 200, 222)}}));
+    if (design.depth)
+        shade.below(flap, {-12, -10}, 30, QColor(36, 24, 96, 150));
+    painter.setClipPath(plate);
+    const QPointF tip = bounds.topLeft() + QPointF(30, 30);
+    painter.fillPath(flap, design.depth ? along(tip, {half, half},
+                                                {{0, QColor(244, 245, 252)},
+                                                 {0.45, QColor(205, 207, 230)},
+                                                 {0.72, QColor(255, 255, 255)},
+                                                 {0.9, QColor(226, 228, 244)},
+                                                 {1, QColor(176, 178, 214)}})
+                                        : along(tip, {half, half},
+                                                {{0, QColor(186, 188, 222)}, {1, QColor(232, 233, 246)}}));
     return image;
 }
 

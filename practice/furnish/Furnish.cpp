@@ -1,5 +1,6 @@
 #include "practice/furnish/Furnish.h"
 
+#include "practice/art/ProgramIcon.h"
 #include "practice/furnish/BuildingSite.h"
 #include "practice/furnish/BundleBuilder.h"
 #include "practice/furnish/HostFiles.h"
@@ -7,7 +8,6 @@
 #include "practice/furnish/InstalledPrograms.h"
 #include "practice/furnish/MachineFiles.h"
 #include "practice/furnish/ProgramBundle.h"
-#include "practice/furnish/ProgramIcon.h"
 #include "practice/furnish/SampleApps.h"
 #include "practice/furnish/SampleDock.h"
 #include "practice/furnish/SampleLaunchpad.h"
@@ -67,7 +67,7 @@ Status somethingElseError(const HostPath& root) {
 }
 
 void writeApplications(TreeWriter& tree, int largestIcon) {
-    std::vector<IconPainter> painters{drawProgramIcon};
+    std::vector<IconPainter> painters{[](int size) { return drawProgramIcon(size, size); }};
     for (const SampleApp& app : sampleApps())
         painters.push_back([style = iconStyle(app)](int size) { return drawIcon(style, size); });
     const std::vector<Bytes> icons = buildIcons(painters, largestIcon);
