@@ -19,20 +19,26 @@ const T* entry(const plist::Dictionary& data, std::string_view key) {
     return found == data.end() ? nullptr : found->second.as<T>();
 }
 
-/// The tiles of "persistent-apps" that are wanted, in Dock order.
-template<typename Predicate>
-std::vector<Tile> tilesThat(plist::Value& preferences, Predicate isWanted) {
+/// The tiles of one part of the Dock, in its order.
+std::vector<Tile> tilesOf(plist::Value& preferences, std::string_view part) {
     std::vector<Tile> tiles;
-    plist::Value* apps = preferences.find("persistent-apps");
+    plist::Value* apps = preferences.find(part);
     if (!apps || !apps->as<plist::Array>())
         return tiles;
     for (plist::Value& app : *apps->as<plist::Array>()) {
         plist::Value* data = app.find("tile-data");
         if (!data || !data->as<plist::Dictionary>())
             continue;
-        if (const Tile tile(*data->as<plist::Dictionary>()); isWanted(tile))
-            tiles.push_back(tile);
+        tiles.emplace_back(*data->as<plist::Dictionary>());
     }
+    return tiles;
+}
+
+/// The tiles of "persistent-apps" that are wanted, in Dock order.
+template<typename Predicate>
+std::vector<Tile> tilesThat(plist::Value& preferences, Predicate isWanted) {
+    std::vector<Tile> tiles = tilesOf(preferences, "persistent-apps");
+    std::erase_if(tiles, [&](const Tile& tile) { return !isWanted(tile); });
     return tiles;
 }
 
@@ -101,7 +107,15 @@ MacPath pathOf(std::string_view url) {
 }
 
 std::vector<Tile> allTiles(plist::Value& preferences) {
-    return tilesThat(preferences, [](const Tile&) { return true; });
+    return tilesOf(preferences, "persistent-apps");
+}
+
+std::vector<Tile> recentTiles(plist::Value& preferences) {
+    return tilesOf(preferences, "recent-apps");
+}
+
+std::vector<Tile> otherTiles(plist::Value& preferences) {
+    return tilesOf(preferences, "persistent-others");
 }
 
 std::vector<Tile> appTiles(plist::Value& preferences) {

@@ -53,6 +53,10 @@ MacPath pathOf(std::string_view url);
 /// The tiles of "persistent-apps" that have a description, spacers among them, in Dock order.
 std::vector<Tile> allTiles(plist::Value& preferences);
 
+/// The same of "recent-apps", and of "persistent-others": the folders and documents.
+std::vector<Tile> recentTiles(plist::Value& preferences);
+std::vector<Tile> otherTiles(plist::Value& preferences);
+
 /// The tiles of "persistent-apps" that carry a bundle identifier, in Dock order.
 std::vector<Tile> appTiles(plist::Value& preferences);
 

@@ -136,10 +136,14 @@ TEST_F(PreviewTest, NowIsWhatThePictureOfTheMacShows) {
     practice::PictureMap map;
     ASSERT_TRUE(practice::drawPicture(volume.root(), {}, map));
     std::multimap<std::string, std::string> drawn;
+    std::vector<std::string> dock{"Finder"};
     for (const practice::Spot& spot : map.spots) {
-        if (spot.where.starts_with("Page") || spot.where.starts_with("Folder"))
+        if (spot.where == "Dock")
+            dock.push_back(spot.title);
+        else
             drawn.emplace(spot.title, spot.path.string());
     }
+    dock.push_back("Trash");
     std::multimap<std::string, std::string> shown;
     for (const auto& page : preview().scene().pages) {
         for (const PreviewItem& item : page) {
@@ -149,6 +153,12 @@ TEST_F(PreviewTest, NowIsWhatThePictureOfTheMacShows) {
         }
     }
     EXPECT_EQ(shown, drawn);
+    std::vector<std::string> tiles;
+    for (const PreviewItem& tile : preview().scene().tiles) {
+        if (tile.kind == PreviewItem::Kind::app)
+            tiles.push_back(tile.now.title);
+    }
+    EXPECT_EQ(tiles, dock);
 }
 
 TEST_F(PreviewTest, AfterIsWhatAnApplyMakes) {

@@ -12,6 +12,10 @@ namespace {
 
 constexpr std::size_t kMiniatures = 9; ///< on a closed folder
 
+QString drawing(const char* name) {
+    return QStringLiteral("qrc:/qt/qml/Tavrik/qml/preview/%1.svg").arg(QLatin1String(name));
+}
+
 } // namespace
 
 int PreviewItemsModel::rowCount(const QModelIndex& parent) const {
@@ -27,6 +31,8 @@ QVariant PreviewItemsModel::data(const QModelIndex& index, int role) const {
         return item.kind == PreviewItem::Kind::folder;
     case isGap:
         return item.kind == PreviewItem::Kind::gap;
+    case isLine:
+        return item.kind == PreviewItem::Kind::line;
     case changesIcon:
         return item.changesIcon();
     case titleNow:
@@ -50,6 +56,7 @@ QHash<int, QByteArray> PreviewItemsModel::roleNames() const {
     return {{key, "key"},
             {isFolder, "isFolder"},
             {isGap, "isGap"},
+            {isLine, "isLine"},
             {changesIcon, "changesIcon"},
             {titleNow, "titleNow"},
             {titleAfter, "titleAfter"},
@@ -100,6 +107,12 @@ QString PreviewItemsModel::address(const PreviewIcon& icon) const {
         return m_images.ofShown(toQString(icon.path.string()), m_images.revision());
     case PreviewIcon::Kind::file:
         return m_images.ofFile(toQString(icon.path.string()), m_images.revision());
+    case PreviewIcon::Kind::finder:
+        return drawing("finder");
+    case PreviewIcon::Kind::trash:
+        return drawing("trash");
+    case PreviewIcon::Kind::fullTrash:
+        return drawing("trash-full");
     }
     return {};
 }

@@ -43,6 +43,7 @@ private:
         key = Qt::UserRole + 1,
         isFolder,
         isGap,
+        isLine,
         changesIcon,
         titleNow,
         titleAfter,

@@ -5,10 +5,10 @@
 #include "platform/Mac.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
-#include "system/DockTiles.h"
 #include "system/LaunchpadLayout.h"
 #include "ui/models/LaunchpadCopy.h"
 #include "ui/models/PreviewChanges.h"
+#include "ui/models/PreviewDock.h"
 
 #include <QString>
 
@@ -90,29 +90,6 @@ private:
     std::set<QString> m_seen;
 };
 
-PreviewItem tileItem(const dock::Tile& tile, const Bookmarks& bookmarks, const PreviewChanges& changes) {
-    const std::string bundleID = tile.bundleID() ? *tile.bundleID() : std::string();
-    MacPath path;
-    if (const Bytes* const bookmark = tile.bookmark()) {
-        if (auto target = bookmarks.resolve(*bookmark))
-            path = std::move(*target);
-    }
-    const PreviewFace now{tile.label() ? *tile.label() : std::string(), shownIcon(path)};
-    return {
-        .key = bundleID, .kind = PreviewItem::Kind::app, .now = now, .after = changes.tileAfter(bundleID, now)};
-}
-
-std::vector<PreviewItem> tileItems(plist::Value& preferences, const Bookmarks& bookmarks,
-                                   const PreviewChanges& changes) {
-    std::vector<PreviewItem> items;
-    for (const dock::Tile& tile : dock::allTiles(preferences)) {
-        const bool isApp = tile.bundleID() || (tile.url() && tile.label());
-        items.push_back(isApp ? tileItem(tile, bookmarks, changes)
-                              : PreviewItem{.key = {}, .kind = PreviewItem::Kind::gap, .now = {}, .after = {}});
-    }
-    return items;
-}
-
 } // namespace
 
 int PreviewItem::changeCount() const {
@@ -146,7 +123,7 @@ Result<PreviewScene> readPreview(const ApplyServices& with, const StagedChanges&
         if (auto page = pages.page(rows); !page.empty())
             scene.pages.push_back(std::move(page));
     }
-    scene.tiles = tileItems(*preferences, with.mac.bookmarks, *changes);
+    scene.tiles = readPreviewDock(*preferences, with.mac, *changes);
     return scene;
 }
 

@@ -14,9 +14,12 @@ struct ApplyServices;
 /// Where an icon on the screen comes from.
 struct PreviewIcon {
     enum class Kind {
-        none,  ///< nothing is where it should be: a question mark
-        shown, ///< what the Mac shows for the path
-        file,  ///< the picture in the file
+        none,   ///< nothing is where it should be: a question mark
+        shown,  ///< what the Mac shows for the path
+        file,   ///< the picture in the file
+        finder, ///< drawings of our own, where the Mac has no file to ask for
+        trash,
+        fullTrash,
     };
 
     Kind kind = Kind::none;
@@ -35,7 +38,7 @@ struct PreviewFace {
 
 /// An application or a folder of Launchpad, or a tile of the Dock.
 struct PreviewItem {
-    enum class Kind { app, folder, gap };
+    enum class Kind { app, folder, gap, line };
 
     std::string key; ///< the same for the same item in the next reading
     Kind kind = Kind::app;
@@ -54,7 +57,7 @@ struct PreviewItem {
 /// Launchpad and the Dock, now and with what is staged: everything stands where it stood.
 struct PreviewScene {
     std::vector<std::vector<PreviewItem>> pages; ///< of Launchpad; what it does not show is left out
-    std::vector<PreviewItem> tiles;              ///< of applications in the Dock, and the gaps between them
+    std::vector<PreviewItem> tiles;              ///< of the Dock, with the gaps and lines between them
 
     bool operator==(const PreviewScene&) const = default;
 };

@@ -1,7 +1,7 @@
 import QtQuick
 import Tavrik
 
-// The Dock with the applications that are kept in it; their labels show below the pointer.
+// The Dock, from the Finder to the Trash; the labels show at the pointer.
 Rectangle {
     id: bar
 
@@ -33,6 +33,8 @@ Rectangle {
                 id: tile
 
                 required property bool isGap
+                required property bool isLine
+                readonly property bool isEmpty: isGap || isLine
                 required property bool changesIcon
                 required property string titleNow
                 required property string titleAfter
@@ -40,15 +42,15 @@ Rectangle {
                 required property string iconAfter
                 readonly property string title: bar.isAfter ? titleAfter : titleNow
 
-                width: isGap ? bar.side / 2 : bar.side
+                width: isGap ? bar.side / 2 : isLine ? 9 : bar.side
                 height: bar.side
                 Accessible.role: Accessible.Graphic
                 Accessible.name: title
                 Accessible.description: bar.isAfter && changesIcon ? qsTr("New icon") : ""
-                Accessible.ignored: isGap
+                Accessible.ignored: isEmpty
 
                 PreviewIcon {
-                    visible: !tile.isGap
+                    visible: !tile.isEmpty
                     side: bar.side
                     source: bar.isAfter ? tile.iconAfter : tile.iconNow
                 }
@@ -62,6 +64,13 @@ Rectangle {
                     visible: bar.isAfter && tile.changesIcon
                     color: Style.accent
                 }
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: 1
+                    height: parent.height - 4
+                    visible: tile.isLine
+                    color: Style.dark ? "#40ffffff" : "#30000000"
+                }
                 HoverHandler { id: pointer }
                 Rectangle {
                     anchors.horizontalCenter: parent.horizontalCenter
@@ -70,7 +79,7 @@ Rectangle {
                     width: label.implicitWidth + 18
                     height: label.implicitHeight + 8
                     radius: 6
-                    visible: pointer.hovered && !tile.isGap && tile.title
+                    visible: pointer.hovered && !tile.isEmpty && tile.title
                     color: Style.dark ? "#4a4c60" : "#fbfbfd"
                     border.color: Style.border
 
