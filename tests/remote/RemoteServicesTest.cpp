@@ -360,6 +360,7 @@ TEST_F(Services, SendNothingOnceTheNetworkIsSwitchedOffForGood) {
     start();
     check();
     pass(48);
+    services->choose(false, false);
     services->setOffForGood(false);
     ASSERT_TRUE(loop.until([&] { return defaults.value(kNetworkDisabledKey) == plist::Value(false); }));
     set(kNetworkDisabledKey, "YES"); // by another program, while this one runs
