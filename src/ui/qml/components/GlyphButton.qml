@@ -39,4 +39,5 @@ T.Button {
     C.ToolTip.text: name
 
     Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 }

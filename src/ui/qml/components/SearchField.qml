@@ -4,18 +4,24 @@ import Tavrik
 TextBox {
     id: field
 
-    leftPadding: 28
-    rightPadding: text ? 28 : 8
+    readonly property bool isMirrored: LayoutMirroring.enabled
+    readonly property real roomToClear: text ? 28 : 8
+
+    leftPadding: isMirrored ? roomToClear : 28
+    rightPadding: isMirrored ? 28 : roomToClear
     placeholderText: qsTr("Search")
     inputMethodHints: Qt.ImhNoPredictiveText
 
     Glyph {
+        objectName: "search-sign"
         anchors.verticalCenter: parent.verticalCenter
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         name: "search"
         size: 14
     }
     GlyphButton {
+        objectName: "search-clear"
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
         anchors.rightMargin: 2

@@ -18,19 +18,34 @@ Rectangle {
     Accessible.role: Accessible.PageTabList
     Accessible.name: name
 
+    // The arrow keys go through the segments, as on the screen.
+    function choose(at, button) {
+        if (at < 0 || at >= segments.length)
+            return
+        control.chosen(segments[at].value)
+        button?.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     Row {
         id: row
 
         anchors.centerIn: parent
 
         Repeater {
+            id: repeater
+
             model: control.segments
 
             T.Button {
                 id: segment
 
                 required property var modelData
+                required property int index
                 readonly property bool isChosen: control.value === modelData.value
+
+                function step(by) {
+                    control.choose(index + by, repeater.itemAt(index + by))
+                }
 
                 implicitWidth: Math.max(56, implicitContentWidth + 24)
                 implicitHeight: control.height - 4
@@ -53,6 +68,9 @@ Rectangle {
                     border.color: Style.accent
                 }
                 Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
+                Keys.onLeftPressed: segment.step(segment.mirrored ? 1 : -1)
+                Keys.onRightPressed: segment.step(segment.mirrored ? -1 : 1)
             }
         }
     }

@@ -12,6 +12,7 @@ T.Button {
     implicitHeight: 30
     leftPadding: 10
     rightPadding: 10
+    opacity: enabled ? 1 : 0.45
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     Accessible.name: count ? qsTr("%1, %2").arg(text).arg(count) : text
@@ -54,4 +55,5 @@ T.Button {
         border.color: Style.accent
     }
     Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 }
