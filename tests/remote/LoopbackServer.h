@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QSslConfiguration>
-#include <QSslKey>
 #include <QSslSocket>
 #include <QTcpServer>
 
@@ -33,11 +32,8 @@ public:
     /// What each path is answered with; 404 where nothing is said.
     std::map<std::string, Reply, std::less<>> replies;
 
-    /// The heads of all requests, whole, in their order.
-    std::vector<std::string> requests;
-
-    /// Connections, whether or not a request came.
-    int connections = 0;
+    std::vector<std::string> requests; ///< whole, in their order
+    int connections = 0;               ///< whether or not a request came
 
 protected:
     void incomingConnection(qintptr descriptor) override;
@@ -51,15 +47,7 @@ private:
 /// A whole answer, its length included.
 std::string httpAnswer(std::string_view status, std::string_view body, std::string_view fields = {});
 
-/// A certificate for "127.0.0.1" or another host, with its key, made by a test authority or, when there is
-/// none, by itself.
-struct Certificate {
-    QSslCertificate certificate;
-    QSslKey key;
-};
-
-Certificate makeCertificate(const char* host, const Certificate* authority);
-
-QSslConfiguration serving(const Certificate& certificate);
+/// With a fresh certificate for "IP:127.0.0.1" or "DNS:<host>" that is signed with its own key.
+QSslConfiguration serving(const char* host);
 
 } // namespace tavrik::test
