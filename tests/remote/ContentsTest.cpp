@@ -104,8 +104,7 @@ TEST(UpdateFeed, IsTakenAsAWholeOrNotAtAll) {
         R"({"version":"1.0","notes":"<b>New</b>","size":1,"link":"https://tavrik.example/"})",
         R"({"version":"1.0","notes":"New","size":-1,"link":"https://tavrik.example/"})",
         R"({"version":"1.0","notes":"New","size":1})",
-        R"("1.0")",
-    };
+        R"("1.0")"};
     for (const std::string& entry : bad)
         EXPECT_FALSE(feed(release("0.9") + "," + entry)) << entry;
     EXPECT_FALSE(updateFeed(object(R"({"releases":{}})")));
@@ -129,8 +128,7 @@ TEST(UpdateCheck, OffersTheHighestReleaseThatRunsHere) {
         {"1.9", {13, 0, 9}, nullptr, systemTooOld, "3.0"}, {"1.10", {14, 0, 0}, nullptr, systemTooOld, "3.0"},
         {"1.0", {15, 7, 2}, nullptr, available, "3.0"},    {"1.10", {16, 0, 0}, nullptr, systemTooNew, "3.0"},
         {"3.0", {15, 0, 0}, nullptr, newest, nullptr},     {"9", {15, 0, 0}, nullptr, newest, nullptr},
-        {"1.0", {14, 0, 0}, "1.9", available, "1.10"},     {"1.0", {15, 0, 0}, "3.0", newest, nullptr},
-    };
+        {"1.0", {14, 0, 0}, "1.9", available, "1.10"},     {"1.0", {15, 0, 0}, "3.0", newest, nullptr}};
 
     for (const auto& [current, system, skipped, verdict, found] : cases) {
         const auto finding =
@@ -147,19 +145,17 @@ TEST(FetchSchedule, WaitsADayAfterAnAnswerAndEverLongerAfterFailures) {
     const struct {
         FetchHistory history;
         bool isDue;
-    } cases[] = {
-        {{}, true},
-        {{.answered = ago(23.99), .failed = {}}, false},
-        {{.answered = ago(24), .failed = {}}, true},
-        {{.answered = ago(-1), .failed = {}}, true},
-        {{.answered = ago(30), .failed = ago(0.99), .failures = 1}, false},
-        {{.answered = ago(30), .failed = ago(1), .failures = 1}, true},
-        {{.answered = {}, .failed = ago(3.99), .failures = 3}, false},
-        {{.answered = {}, .failed = ago(4), .failures = 3}, true},
-        {{.answered = {}, .failed = ago(23.99), .failures = 100}, false},
-        {{.answered = {}, .failed = ago(24), .failures = 100}, true},
-        {{.answered = {}, .failed = ago(-1), .failures = 3}, true},
-    };
+    } cases[] = {{{}, true},
+                 {{.answered = ago(23.99), .failed = {}}, false},
+                 {{.answered = ago(24), .failed = {}}, true},
+                 {{.answered = ago(-1), .failed = {}}, true},
+                 {{.answered = ago(30), .failed = ago(0.99), .failures = 1}, false},
+                 {{.answered = ago(30), .failed = ago(1), .failures = 1}, true},
+                 {{.answered = {}, .failed = ago(3.99), .failures = 3}, false},
+                 {{.answered = {}, .failed = ago(4), .failures = 3}, true},
+                 {{.answered = {}, .failed = ago(23.99), .failures = 100}, false},
+                 {{.answered = {}, .failed = ago(24), .failures = 100}, true},
+                 {{.answered = {}, .failed = ago(-1), .failures = 3}, true}};
 
     for (const auto& [history, isDue] : cases)
         EXPECT_EQ(isFetchDue(history, now), isDue) << now.sinceReference << " " << history.failures;
