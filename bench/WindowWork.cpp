@@ -1,4 +1,4 @@
-#include "app/PracticeHost.h"
+#include "app/practice/PracticeHost.h"
 #include "bench/ManyApps.h"
 #include "platform/Log.h"
 #include "platform/Threads.h"

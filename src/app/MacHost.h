@@ -6,8 +6,7 @@ namespace tavrik {
 
 struct Mac;
 
-/// The Mac that this process works on, chosen when the program is built: the real one on macOS, elsewhere the
-/// practice Mac.
+/// The Mac that this process works on: the real one, or a practice Mac.
 class MacHost {
 public:
     virtual ~MacHost() = default;

@@ -6,7 +6,6 @@
 #include "cli/FontCommands.h"
 #include "cli/IconCommands.h"
 #include "cli/ListCommands.h"
-#include "cli/PracticeCommands.h"
 #include "cli/RemoveEverythingCommand.h"
 #include "cli/StagingCommands.h"
 #include "cli/StartCommand.h"
@@ -21,11 +20,6 @@ namespace tavrik {
 namespace {
 
 constexpr const char* kImageFiles = "PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS file";
-
-std::string mustBePng(const std::string& file) {
-    return file.size() > 4 && file.ends_with(".png") ? std::string()
-                                                     : "the picture is a PNG file: its name ends in .png";
-}
 
 std::string mustBeIndex(const std::string& index) {
     const bool isNumber = !index.empty() && index.find_first_not_of("0123456789") == std::string::npos;
@@ -91,9 +85,7 @@ void CommandLine::addJson(CLI::App& command, bool& json) {
 }
 
 CommandLine::CommandLine()
-    : m_parser("Restyles how applications look in Launchpad and the Dock. Without a Mac it works on the "
-               "practice Mac.",
-               "tavrikctl") {
+    : m_parser("Restyles how applications look in Launchpad and the Dock.", "tavrikctl") {
     m_parser.require_subcommand(1);
     m_parser.add_option("--log", m_logFile, "Append the log lines to this file instead of printing them");
     m_parser.set_version_flag("--version", "tavrikctl " TAVRIK_VERSION);
@@ -106,7 +98,6 @@ CommandLine::CommandLine()
     declareWrappers();
     declareBackups();
     declareMaintenance();
-    declarePractice();
 }
 
 void CommandLine::declareLists() {
@@ -245,21 +236,6 @@ void CommandLine::declareMaintenance() {
     command->add_flag("--yes", removal.yes, "Do not ask");
     command->add_flag("--delete-support-folder", removal.deleteSupportFolder,
                       "Also delete icons, themes, backups and settings, for good, without asking");
-}
-
-void CommandLine::declarePractice() {
-    CLI::App* command = nullptr;
-    PictureCommand& picture =
-        add<PictureCommand>(m_parser, "picture", "Draw Launchpad and the Dock of the practice Mac", command);
-    command->add_option("FILE", picture.file, "The PNG file to write")->required()->check(mustBePng);
-    command->add_option("--scale", picture.scale, "Pixels per point")->check(CLI::IsMember({1, 2}));
-    command->add_flag("--dark", picture.dark, "In the dark appearance");
-
-    CLI::App& practice = *m_parser.add_subcommand("practice", "The practice Mac itself");
-    practice.require_subcommand(1);
-    add<PracticeWhereCommand>(practice, "where", "Print the folder of its volume", command);
-    command->parse_complete_callback([this] { m_answersPrograms = true; });
-    add<PracticeResetCommand>(practice, "reset", "Put it away and furnish a new one", command);
 }
 
 } // namespace tavrik

@@ -26,6 +26,21 @@ public:
     /// Where the log lines are to be appended; empty when no file was named.
     const std::string& logFile() const { return m_logFile; }
 
+    /// Declares a sub-command of `parent`, which `declared` is then, and makes it.
+    template<typename T, typename... Arguments>
+    T& add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
+           Arguments... arguments) {
+        auto command = std::make_unique<T>(arguments...);
+        T& added = *command;
+        m_commands.push_back(std::move(command));
+        declared = parent.add_subcommand(name, description);
+        declared->callback([this, &added] { m_chosen = &added; });
+        return added;
+    }
+
+    /// The line names a command whose standard output is for a program.
+    void answerPrograms() { m_answersPrograms = true; }
+
 private:
     void declareLists();
     void declareIcons();
@@ -38,18 +53,6 @@ private:
     void declareWrappers();
     void declareBackups();
     void declareMaintenance();
-    void declarePractice();
-
-    template<typename T, typename... Arguments>
-    T& add(CLI::App& parent, const char* name, const char* description, CLI::App*& declared,
-           Arguments... arguments) {
-        auto command = std::make_unique<T>(arguments...);
-        T& added = *command;
-        m_commands.push_back(std::move(command));
-        declared = parent.add_subcommand(name, description);
-        declared->callback([this, &added] { m_chosen = &added; });
-        return added;
-    }
 
     void addJson(CLI::App& command, bool& json);
 

@@ -1,6 +1,5 @@
 #include "cli/Companion.h"
 
-#include "app/PracticeHost.h"
 #include "app/VersionGate.h"
 #include "cli/AppLookup.h"
 #include "model/catalogue/Refusal.h"
@@ -23,10 +22,8 @@ void printLine(std::FILE* stream, std::string_view line) {
 
 } // namespace
 
-Companion::Companion(HostPath practiceRoot) : m_practiceRoot(std::move(practiceRoot)) {}
-
 ExitCode Companion::open(Access access) {
-    auto host = openPracticeMac(m_practiceRoot, m_alerts);
+    auto host = m_opener(m_alerts);
     if (!host)
         return fail(host.error().description);
     m_host = std::move(*host);

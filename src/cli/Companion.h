@@ -6,7 +6,7 @@
 #include "cli/TerminalAlerts.h"
 #include "model/SupportFolderLock.h"
 #include "platform/MainQueue.h"
-#include "platform/Path.h"
+#include "platform/Result.h"
 
 #include <memory>
 #include <optional>
@@ -31,9 +31,12 @@ public:
     /// What the lock's next seeker reads of this program.
     static constexpr const char* kName = "tavrikctl";
 
-    explicit Companion(HostPath practiceRoot);
+    /// How the Mac is opened; the questions go to the one that is given.
+    using Opener = Result<std::unique_ptr<MacHost>> (*)(Alerts&);
 
-    const HostPath& practiceRoot() const { return m_practiceRoot; }
+    explicit Companion(Opener openMac) : m_opener(openMac) {}
+
+    Opener opener() const { return m_opener; }
 
     /// Opens the Mac and builds the managers. Anything but `done` is the code to end with, and its sentence is
     /// printed: `refused` when the command is to write and another Tavrik does, or the system is too new. The
@@ -75,7 +78,7 @@ public:
 private:
     ExitCode takeLock(Access access);
 
-    HostPath m_practiceRoot;
+    Opener m_opener;
     TerminalAlerts m_alerts;
     std::unique_ptr<MacHost> m_host;
     std::optional<SupportFolderLock> m_lock; ///< goes after the managers

@@ -26,7 +26,7 @@ Findings check(Companion& companion) {
 /// A program that may write puts some things right as it opens, so they are looked at before, and beside
 /// whatever runs.
 std::optional<Findings> look(Companion& companion) {
-    std::optional<Companion> looking(companion.practiceRoot());
+    std::optional<Companion> looking(companion.opener());
     std::optional<Findings> findings;
     if (looking->open(Access::looking) == ExitCode::done)
         findings = check(*looking);

@@ -1,10 +1,11 @@
+#include "app/Host.h"
 #include "cli/CommandLine.h"
 #include "cli/Companion.h"
+#include "cli/HostCommands.h"
 #include "cli/TerminalLog.h"
 #include "platform/MainQueue.h"
 #include "platform/SerialQueue.h"
 #include "platform/Threads.h"
-#include "practice/furnish/Furnish.h"
 
 #include <QGuiApplication>
 
@@ -24,6 +25,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(dropChatter);
 
     CommandLine commands;
+    declareHostCommands(commands);
     try {
         commands.parser().parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -44,7 +46,7 @@ int main(int argc, char** argv) {
 
     ExitCode code = ExitCode::failed;
     {
-        Companion companion(practice::defaultRoot());
+        Companion companion(openHost);
         SerialQueue queue("com.tavrik.companion");
         queue.async([&] {
             code = commands.chosen().run(companion);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tavrik {
 
@@ -12,6 +13,9 @@ struct SystemVersion {
 
     auto operator<=>(const SystemVersion&) const = default;
 };
+
+/// Of "14.4.1"; what is missing or no number is 0.
+SystemVersion systemVersionOf(std::string_view text);
 
 /// Facts about the machine itself.
 class Machine {

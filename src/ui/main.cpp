@@ -1,8 +1,7 @@
-#include "app/PracticeHost.h"
+#include "app/Host.h"
 #include "app/VersionGate.h"
 #include "platform/Mac.h"
 #include "platform/Threads.h"
-#include "practice/furnish/Furnish.h"
 #include "ui/AlertWindow.h"
 #include "ui/InterfaceFont.h"
 #include "ui/Program.h"
@@ -41,7 +40,7 @@ int main(int argc, char** argv) {
     useInterfaceFont();
 
     WindowAlerts alerts;
-    const auto host = openPracticeMac(practice::defaultRoot(), alerts);
+    const auto host = openHost(alerts);
     if (!host)
         return refuseToStart(alerts, host.error().description);
     if (!mayRun(**host, alerts))

@@ -1,6 +1,7 @@
 #include "platform/practice/PracticeBookmarks.h"
 
 #include "platform/FileManager.h"
+#include "platform/FileURL.h"
 #include "platform/practice/Layout.h"
 
 #include <cerrno>
@@ -26,11 +27,6 @@ std::vector<std::string> componentsOf(const MacPath& path) {
         rest.remove_prefix(component.size());
     }
     return components;
-}
-
-bool staysAsItIs(char c) {
-    const bool isLetterOrDigit = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-    return isLetterOrDigit || std::string_view("-._~!$&'()*+,;=:@/").find(c) != std::string_view::npos;
 }
 
 } // namespace
@@ -87,22 +83,7 @@ Result<MacPath> PracticeBookmarks::recordedPath(ByteView bookmark) const {
 }
 
 std::string PracticeBookmarks::fileURL(const MacPath& path) const {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string url = "file://";
-    for (const char c : path.string()) {
-        if (staysAsItIs(c)) {
-            url += c;
-            continue;
-        }
-        const auto byte = static_cast<unsigned char>(c);
-        url += '%';
-        url += kDigits[byte >> 4];
-        url += kDigits[byte & 0xF];
-    }
-    const auto attributes = m_files.attributes(path);
-    if (attributes && attributes->type == FileType::folder && !url.ends_with('/'))
-        url += '/';
-    return url;
+    return fileURLOf(path, m_files);
 }
 
 } // namespace tavrik::practice

@@ -4,8 +4,6 @@
 #include "platform/practice/Layout.h"
 #include "platform/practice/PropertyListFile.h"
 
-#include <charconv>
-
 namespace tavrik::practice {
 
 namespace {
@@ -18,20 +16,6 @@ std::string_view trimmed(std::string_view text) {
     if (first == text.npos)
         return {};
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-/// "14.4.1"; what is missing or no number is 0.
-SystemVersion parsedVersion(std::string_view text) {
-    SystemVersion version;
-    const char* const end = text.data() + text.size();
-    const char* next = text.data();
-    for (int* number : {&version.major, &version.minor, &version.patch}) {
-        const auto [stopped, error] = std::from_chars(next, end, *number);
-        if (error != std::errc() || stopped == end || *stopped != '.')
-            break;
-        next = stopped + 1;
-    }
-    return version;
 }
 
 } // namespace
@@ -51,7 +35,7 @@ SystemVersion PracticeMachine::systemVersion() const {
     if (!content || !*content)
         return {};
     const auto* version = (*content)->find<std::string>("ProductVersion");
-    return version ? parsedVersion(*version) : SystemVersion();
+    return version ? systemVersionOf(*version) : SystemVersion();
 }
 
 } // namespace tavrik::practice

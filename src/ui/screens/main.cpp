@@ -1,4 +1,4 @@
-#include "app/PracticeHost.h"
+#include "app/practice/PracticeHost.h"
 #include "platform/Threads.h"
 #include "ui/InterfaceFont.h"
 #include "ui/Program.h"

@@ -1,5 +1,6 @@
-#include "app/PracticeHost.h"
+#include "app/practice/PracticeHost.h"
 
+#include "app/Host.h"
 #include "platform/practice/PracticeMac.h"
 #include "practice/furnish/Furnish.h"
 #include "practice/session/Session.h"
@@ -31,6 +32,10 @@ private:
 };
 
 } // namespace
+
+Result<std::unique_ptr<MacHost>> openHost(Alerts& alerts) {
+    return openPracticeMac(practice::defaultRoot(), alerts);
+}
 
 HostPath programsFolder() {
     return HostPath(QCoreApplication::applicationDirPath().toStdString());

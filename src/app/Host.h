@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/MacHost.h"
+#include "platform/Result.h"
+
+#include <memory>
+
+namespace tavrik {
+
+class Alerts;
+
+/// Opens the Mac of this program: the real one, or the user's practice Mac. Which, is settled by the host's
+/// library that the program links. An error is a sentence. `alerts` asks the person where the Mac has no way of
+/// its own; it must outlive the host.
+Result<std::unique_ptr<MacHost>> openHost(Alerts& alerts);
+
+} // namespace tavrik
