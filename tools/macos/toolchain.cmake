@@ -9,7 +9,7 @@ set(CMAKE_AR /usr/bin/llvm-ar-19)
 set(CMAKE_RANLIB /usr/bin/llvm-ranlib-19)
 set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-19)
 foreach(language CXX OBJCXX)
-    set(CMAKE_${language}_COMPILER clang++-19)
+    set(CMAKE_${language}_COMPILER /usr/bin/clang++-19)
     set(CMAKE_${language}_COMPILER_TARGET $ENV{TAVRIK_MACOS_TARGET})
     set(CMAKE_${language}_COMPILER_WORKS TRUE)
     # What the oldest system lacks is an error, like every warning.
