@@ -99,8 +99,10 @@ void scroll(QQuickWindow& window, QQuickItem& list) {
                 frames[frames.size() * 99 / 100], frames.back());
 }
 
-/// From `start` to the first picture of the list, then scrolling.
-int showList(const HostPath& root, const QElapsedTimer& start) {
+enum class Then { end, scroll };
+
+/// From `start` to the first picture of the list.
+int showList(const HostPath& root, const QElapsedTimer& start, Then then) {
     WindowAlerts alerts;
     const auto host = openPracticeMac(root, alerts);
     if (!host)
@@ -117,15 +119,16 @@ int showList(const HostPath& root, const QElapsedTimer& start) {
     if (window.grabWindow().isNull())
         return 1;
     std::printf("list of %d %.1f ms\n", apps.shownCount(), milliseconds(start));
-    scroll(window, *Stagehand::find(QStringLiteral("appList")));
+    if (then == Then::scroll)
+        scroll(window, *Stagehand::find(QStringLiteral("appList")));
     return 0;
 }
 
 } // namespace
 } // namespace tavrik::bench
 
-/// Times the window, in software and on no screen: window_work empty, or list FOLDER of a practice Mac,
-/// which furnish FOLDER APPS makes.
+/// Times the window, in software and on no screen: window_work empty, or list or scroll FOLDER of a
+/// practice Mac, which furnish FOLDER APPS makes.
 int main(int argc, char** argv) {
     using namespace tavrik;
     QElapsedTimer start;
@@ -144,7 +147,9 @@ int main(int argc, char** argv) {
     if (what == "empty")
         return bench::showEmptyWindow(start);
     if (what == "list" && argc == 3)
-        return bench::showList(HostPath(argv[2]), start);
-    std::fprintf(stderr, "Usage: window_work empty | furnish FOLDER APPS | list FOLDER\n");
+        return bench::showList(HostPath(argv[2]), start, bench::Then::end);
+    if (what == "scroll" && argc == 3)
+        return bench::showList(HostPath(argv[2]), start, bench::Then::scroll);
+    std::fprintf(stderr, "Usage: window_work empty | furnish FOLDER APPS | list FOLDER | scroll FOLDER\n");
     return 2;
 }

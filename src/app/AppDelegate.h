@@ -72,6 +72,9 @@ public:
     /// it is done.
     void inBackground(std::function<void()> work);
 
+    /// Something runs in the background, or waits to.
+    bool isWorking() const { return m_works > 0; }
+
     /// Hears when `isStarting`, `isBlocked` or what a menu may do has changed.
     void setStateObserver(std::function<void()> observer) { m_stateChanged = std::move(observer); }
 

@@ -84,7 +84,13 @@ Program::Program(MacHost& host, WindowAlerts& alerts, SupportFolderLock lock)
     m_engine.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
 }
 
-Program::~Program() = default;
+Program::~Program() {
+    // What still runs may wait for the main thread, or for an answer.
+    while (m_delegate.isWorking()) {
+        m_model.alerts()->answerAll();
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
+    }
+}
 
 void Program::start() {
     m_delegate.applicationWillFinishLaunching();

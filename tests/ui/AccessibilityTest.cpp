@@ -21,14 +21,6 @@ void findNameless(QAccessibleInterface* item, const QString& where, QStringList&
         findNameless(item->child(i), place, found);
 }
 
-std::vector<Scene> allScenes() {
-    std::vector<Scene> scenes;
-    for (const auto& some : {applicationsScenes(), themesScenes(), fontsScenes(), previewScenes(),
-                             applyScenes(), settingsScenes()})
-        scenes.insert(scenes.end(), some.begin(), some.end());
-    return scenes;
-}
-
 } // namespace
 
 class Accessibility : public UiStage {};

@@ -54,7 +54,8 @@ protected:
         ASSERT_TRUE(opened) << opened.error().description;
         program = std::move(*opened);
         program->start();
-        ASSERT_TRUE(waitFor([&] { return !program->delegate().isStarting(); }));
+        ASSERT_TRUE(waitFor(
+            [&] { return !program->delegate().isStarting() && window()->property("wasDrawn").toBool(); }));
     }
 
     WindowModel& model() { return program->model(); }

@@ -57,7 +57,6 @@ void WindowAlerts::show(Question question) {
     Q_EMIT changed();
 }
 
-/// Nobody is there to answer any more.
 void WindowAlerts::answerAll() {
     while (isShown())
         answer(static_cast<int>(m_questions.back().alert.buttonWithoutAnswer()));

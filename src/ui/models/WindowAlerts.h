@@ -40,6 +40,9 @@ public:
     QStringList buttons() const; ///< the default one first
     bool isWarning() const;
 
+    /// Nobody is there to answer any more: each question that was asked gets the answer that loses nothing.
+    void answerAll();
+
     /// A button of the question that is shown was pressed.
     Q_INVOKABLE void answer(int button);
 
@@ -55,7 +58,6 @@ private:
     std::size_t askOnMain(const Alert& alert);
     std::size_t askFromElsewhere(const Alert& alert);
     void show(Question question);
-    void answerAll();
 
     std::vector<Question> m_questions; ///< the last one is shown
 };

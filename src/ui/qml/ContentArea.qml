@@ -1,7 +1,7 @@
 import QtQuick
 import Tavrik
 
-// The view of the current place, or the preview over it. Views are made when they are first shown, and kept.
+// The view of the current place, or the preview over it. Views are read and made when they are first shown, and kept.
 Rectangle {
     id: area
 
@@ -10,33 +10,41 @@ Rectangle {
     color: Style.content
 
     component Place: Loader {
+        property string view
+        property var properties: ({ model: area.model })
         property bool isCurrent: false
-        property bool wasShown: false
+
+        function show() {
+            if (isCurrent && !item)
+                setSource(view, properties)
+        }
 
         anchors.fill: parent
-        active: isCurrent || wasShown
         visible: isCurrent
-        onIsCurrentChanged: wasShown = wasShown || isCurrent
+        onIsCurrentChanged: show()
+        Component.onCompleted: show()
     }
 
     Place {
         isCurrent: !area.model.showsPreview && area.model.place === WindowModel.UserApps
-        sourceComponent: ApplicationsView { model: area.model; isSystemList: false }
+        view: "applications/ApplicationsView.qml"
+        properties: ({ model: area.model, isSystemList: false })
     }
     Place {
         isCurrent: !area.model.showsPreview && area.model.place === WindowModel.SystemApps
-        sourceComponent: ApplicationsView { model: area.model; isSystemList: true }
+        view: "applications/ApplicationsView.qml"
+        properties: ({ model: area.model, isSystemList: true })
     }
     Place {
         isCurrent: !area.model.showsPreview && area.model.place === WindowModel.Themes
-        sourceComponent: ThemesView { model: area.model }
+        view: "themes/ThemesView.qml"
     }
     Place {
         isCurrent: !area.model.showsPreview && area.model.place === WindowModel.Fonts
-        sourceComponent: FontsView { model: area.model }
+        view: "fonts/FontsView.qml"
     }
     Place {
         isCurrent: area.model.showsPreview
-        sourceComponent: PreviewView { model: area.model }
+        view: "preview/PreviewView.qml"
     }
 }

@@ -6,6 +6,8 @@ C.ApplicationWindow {
     id: window
 
     required property WindowModel model
+    /// The first picture comes before what it does not show is made.
+    property bool wasDrawn: false
 
     width: 1120
     height: 740
@@ -30,14 +32,14 @@ C.ApplicationWindow {
         value: window.model.isDark
     }
 
+    onFrameSwapped: wasDrawn = true
+
     menuBar: Loader {
-        sourceComponent: Qt.platform.os === "osx" ? null : windowMenus
+        readonly property bool isOurs: Qt.platform.os !== "osx"
 
-        Component {
-            id: windowMenus
-
-            AppMenuBar { content: window.model.menus }
-        }
+        height: isOurs ? Style.menuBarHeight : 0
+        active: isOurs && window.wasDrawn
+        onActiveChanged: if (active) setSource("menus/AppMenuBar.qml", { content: window.model.menus })
     }
     Loader {
         active: Qt.platform.os === "osx"
@@ -82,11 +84,12 @@ C.ApplicationWindow {
         notices: window.model.notices
     }
 
-    WelcomeSheet { model: window.model }
-    AboutSheet { model: window.model }
-    ApplySheet { model: window.model }
-    ProgressSheet { model: window.model }
-    AlertSheet { alerts: window.model.alerts }
+    Loader {
+        // A question may come before a window that is covered or minimized is ever drawn.
+        active: window.wasDrawn || window.model.alerts.isShown
+        onActiveChanged: if (active) setSource("Sheets.qml", { model: window.model })
+        Component.onCompleted: activeChanged()
+    }
 
     Connections {
         target: window.model

@@ -18,6 +18,10 @@ struct Scene {
     std::function<QQuickWindow*(Program&)> show;
 };
 
+/// In the order in which they may follow each other.
+std::vector<Scene> allScenes();
+
+std::vector<Scene> windowScenes();
 std::vector<Scene> applicationsScenes();
 std::vector<Scene> themesScenes();
 std::vector<Scene> fontsScenes();

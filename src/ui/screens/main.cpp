@@ -37,21 +37,18 @@ bool save(const QImage& picture, const QString& file) {
 
 /// Every scene whose name begins with `wanted`.
 bool draw(Program& program, const QString& folder, const QString& wanted, const QString& format) {
-    for (const auto& scenes : {applicationsScenes(), themesScenes(), fontsScenes(), previewScenes(),
-                               applyScenes(), settingsScenes()}) {
-        for (const Scene& scene : scenes) {
-            if (!scene.name.startsWith(wanted))
-                continue;
-            QQuickWindow* const window = scene.show(program);
-            for (const bool isDark : {false, true}) {
-                QGuiApplication::setPalette(isDark ? darkPalette() : QPalette());
-                const QString suffix = isDark ? QStringLiteral("-dark") : QString();
-                if (!save(Stagehand::settled(window),
-                          QStringLiteral("%1/%2%3.%4").arg(folder, scene.name, suffix, format)))
-                    return false;
-            }
-            QGuiApplication::setPalette(QPalette());
+    for (const Scene& scene : allScenes()) {
+        if (!scene.name.startsWith(wanted))
+            continue;
+        QQuickWindow* const window = scene.show(program);
+        for (const bool isDark : {false, true}) {
+            QGuiApplication::setPalette(isDark ? darkPalette() : QPalette());
+            const QString suffix = isDark ? QStringLiteral("-dark") : QString();
+            if (!save(Stagehand::settled(window),
+                      QStringLiteral("%1/%2%3.%4").arg(folder, scene.name, suffix, format)))
+                return false;
         }
+        QGuiApplication::setPalette(QPalette());
     }
     return true;
 }

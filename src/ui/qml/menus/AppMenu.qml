@@ -15,6 +15,7 @@ T.Menu {
     overlap: 1
 
     contentItem: ListView {
+        objectName: "menu-lines"
         implicitHeight: contentHeight
         model: menu.contentModel
         interactive: false

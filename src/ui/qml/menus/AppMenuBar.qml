@@ -8,12 +8,13 @@ T.MenuBar {
 
     required property Menus content
 
-    implicitHeight: 26
+    implicitHeight: Style.menuBarHeight
     implicitWidth: contentItem.implicitWidth
     Accessible.name: qsTr("Menu bar")
 
     background: Rectangle { color: Style.sidebar }
     contentItem: Row {
+        objectName: "menu-titles"
         spacing: 0
         leftPadding: 6
 
@@ -23,7 +24,7 @@ T.MenuBar {
         id: title
 
         implicitWidth: implicitContentWidth + 20
-        implicitHeight: 26
+        implicitHeight: Style.menuBarHeight
         Accessible.name: text
 
         contentItem: Label {

@@ -24,7 +24,7 @@ T.MenuItem {
         visible: item.modelData.isChecked
         name: "check"
         size: 13
-        color: item.highlighted ? Style.onAccent : Style.text
+        color: item.highlighted ? Style.textOnAccent : Style.text
     }
     contentItem: Item {
         Label {
@@ -32,7 +32,7 @@ T.MenuItem {
             anchors.right: keys.left
             anchors.verticalCenter: parent.verticalCenter
             text: item.text
-            color: item.highlighted ? Style.onAccent : Style.text
+            color: item.highlighted ? Style.textOnAccent : Style.text
             opacity: item.enabled ? 1 : 0.4
             visible: !item.modelData.isSeparator
             Accessible.ignored: true
@@ -43,7 +43,7 @@ T.MenuItem {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: keyText.nativeText
-            color: item.highlighted ? Style.onAccent : Style.faint
+            color: item.highlighted ? Style.textOnAccent : Style.faint
             opacity: item.enabled ? 1 : 0.4
             Accessible.ignored: true
         }

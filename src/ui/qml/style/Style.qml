@@ -39,6 +39,7 @@ QtObject {
     readonly property int corner: 8
     readonly property int cornerLarge: 12
     readonly property int controlHeight: 28
+    readonly property int menuBarHeight: 26
     readonly property int toolbarHeight: 52
     readonly property int sidebarWidth: 212
 

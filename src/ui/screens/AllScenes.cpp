@@ -1,0 +1,13 @@
+#include "ui/screens/Scene.h"
+
+namespace tavrik {
+
+std::vector<Scene> allScenes() {
+    std::vector<Scene> scenes;
+    for (const auto& some : {windowScenes(), applicationsScenes(), themesScenes(), fontsScenes(),
+                             previewScenes(), applyScenes(), settingsScenes()})
+        scenes.insert(scenes.end(), some.begin(), some.end());
+    return scenes;
+}
+
+} // namespace tavrik
