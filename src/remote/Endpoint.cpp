@@ -31,7 +31,7 @@ bool isThisMachine(const QUrl& url) {
 std::optional<QUrl> acceptableAddress(std::string_view address) {
     if (address.size() > kLongest)
         return std::nullopt;
-    const QUrl url(QString::fromUtf8(address.data(), static_cast<qsizetype>(address.size())), QUrl::StrictMode);
+    QUrl url(QString::fromUtf8(address.data(), static_cast<qsizetype>(address.size())), QUrl::StrictMode);
     const bool isSecure = url.scheme() == QLatin1String("https");
     const bool isNear = url.scheme() == QLatin1String("http") && isThisMachine(url);
     if (!url.isValid() || url.host().isEmpty() || (!isSecure && !isNear) || !url.userInfo().isEmpty() ||

@@ -58,8 +58,9 @@ public:
     /// Whether the schedule allows a request now. False before `load` is done and during a request.
     bool isDue() const;
 
-    /// Sends one request, whatever the schedule says, unless one is under way, which is then waited for. `then`
-    /// comes later, whether it went well or not.
+    /// Sends one request, whatever the schedule says, unless one is under way, which is then waited for, or the
+    /// user defaults switch the network off for good, which is told as a failure. `then` comes later, whether
+    /// it went well or not.
     void fetch(Then then);
 
     /// Ends a request under way, and forgets who waits for it.

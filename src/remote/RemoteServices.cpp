@@ -70,6 +70,8 @@ void RemoteServices::startUp() {
 
 void RemoteServices::ready() {
     m_isReady = true;
+    for (const auto& wish : std::exchange(m_whenReady, {}))
+        wish();
     showTexts();
     if (m_updates.isAsked)
         checkForUpdates();
@@ -117,6 +119,10 @@ void RemoteServices::fetchUpdates() {
 }
 
 void RemoteServices::choose(bool wantsTexts, bool wantsUpdates) {
+    if (!m_isReady) {
+        m_whenReady.emplace_back([=, this] { choose(wantsTexts, wantsUpdates); });
+        return;
+    }
     NetworkChoice choice = m_choice;
     choice.isAsked = true;
     choice.wantsTexts = wantsTexts;
@@ -125,6 +131,10 @@ void RemoteServices::choose(bool wantsTexts, bool wantsUpdates) {
 }
 
 void RemoteServices::setOffForGood(bool isOff) {
+    if (!m_isReady) {
+        m_whenReady.emplace_back([=, this] { setOffForGood(isOff); });
+        return;
+    }
     NetworkChoice choice = m_choice;
     choice.isOffForGood = isOff;
     apply(choice, [isOff](NetworkConsent& consent) { return consent.writeOffForGood(isOff); });
@@ -195,10 +205,10 @@ void RemoteServices::skipVersion() {
         return;
     m_skipped = release->version;
     onQueue([&defaults = m_ports.defaults,
-             version = textOf(release->version)] { return bool(defaults.set(kSkippedKey, version)); },
-            [](bool isSaved) {
-                if (!isSaved)
-                    log("Failed to save " + std::string(kSkippedKey));
+             version = textOf(release->version)] { return defaults.set(kSkippedKey, version); },
+            [](const Status& saved) {
+                if (!saved)
+                    log("Failed to save " + std::string(kSkippedKey) + ": " + saved.error().description);
             });
     dismissUpdate();
 }

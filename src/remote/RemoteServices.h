@@ -33,10 +33,8 @@ struct UpdateStatus {
     };
 
     Stage stage = Stage::unknown;
-    bool isAsked =
-        false; ///< a person asked for it, who is owed an answer; else only an available release is shown
-    bool isOffered =
-        false; ///< `finding` has a release for this system that the person has not put off in this run
+    bool isAsked = false;   ///< a person asked for it, who is owed an answer
+    bool isOffered = false; ///< there is a release for this system, and it was not put off in this run
     UpdateFinding finding;
     std::optional<RemoteFailure> failure;
 
@@ -82,7 +80,8 @@ public:
     /// the start is over and the window is idle.
     void startUp();
 
-    /// Whether `startUp` has read everything: before, the choice is not known and nothing is sent.
+    /// Whether `startUp` has read everything: before, the choice is not known and nothing is sent. What a
+    /// person wishes before waits until then.
     bool isReady() const { return m_isReady; }
 
     /// Sends what is due and allowed. The hourly timer calls it too.
@@ -138,6 +137,7 @@ private:
     Ports m_ports;
     Options m_options;
     std::function<void()> m_changed;
+    std::vector<std::function<void()>> m_whenReady;
     bool m_isStarted = false;
     bool m_isReady = false;
     bool m_isChoiceSaved = true;
