@@ -63,11 +63,7 @@ TEST(SignedAnswer, IsRefusedWhateverSingleBitIsTurned) {
 
 TEST(TrustedAnswer, IsForItsServiceInForceAndNotOlderThanWhatWasSeen) {
     const std::string rest = R"("texts":{})";
-
-    const struct {
-        std::string payload;
-        std::optional<RemoteFailure> failure;
-    } cases[] = {
+    const std::pair<std::string, std::optional<RemoteFailure>> cases[] = {
         {payload("texts", 5, rest), std::nullopt},
         {payload("texts", 4, rest), RemoteFailure::notTrusted},
         {payload("updates", 5, rest), RemoteFailure::notTrusted},
@@ -82,7 +78,6 @@ TEST(TrustedAnswer, IsForItsServiceInForceAndNotOlderThanWhatWasSeen) {
         {payload("texts", 5, rest, "2026-02-30T00:00:00Z"), RemoteFailure::notUnderstood},
         {payload("texts", 5, R"("serial":6)"), RemoteFailure::notUnderstood},
         {"[]", RemoteFailure::notUnderstood}};
-
     for (const auto& [text, failure] : cases)
         EXPECT_EQ(failureOf(kCurrent.sign(text), {{"current-9", 5}}), failure) << text;
     EXPECT_EQ(failureOf(kSpare.sign(payload("texts", 1, rest)), {{"current-9", 5}}), std::nullopt)
@@ -91,23 +86,18 @@ TEST(TrustedAnswer, IsForItsServiceInForceAndNotOlderThanWhatWasSeen) {
 
 TEST(StrictJson, TakesOneObjectThatSaysEverythingOnce) {
     const std::string deepest = R"({"a":[[[[[[[":,{["]]]]]]]})";
-
-    const struct {
-        std::string text;
-        bool isTaken;
-    } cases[] = {{R"({})", true},
-                 {R"({"a":{"b":1,"c":"x:y\":{"},"b":[{"b":2}]})", true},
-                 {deepest, true},
-                 {"{\"a\":[" + deepest + "]}", false},
-                 {R"({"a":1,"a":2})", false},
-                 {R"({"a":1,"\u0061":2})", false},
-                 {R"({"a":1} {})", false},
-                 {R"({"a":NaN})", false},
-                 {R"({"a":1e400})", false},
-                 {"{\"a\":\"\xFF\"}", false},
-                 {"", false},
-                 {std::string(100'000, '['), false}};
-
+    const std::pair<std::string, bool> cases[] = {{R"({})", true},
+                                                  {R"({"a":{"b":1,"c":"x:y\":{"},"b":[{"b":2}]})", true},
+                                                  {deepest, true},
+                                                  {"{\"a\":[" + deepest + "]}", false},
+                                                  {R"({"a":1,"a":2})", false},
+                                                  {R"({"a":1,"\u0061":2})", false},
+                                                  {R"({"a":1} {})", false},
+                                                  {R"({"a":NaN})", false},
+                                                  {R"({"a":1e400})", false},
+                                                  {"{\"a\":\"\xFF\"}", false},
+                                                  {"", false},
+                                                  {std::string(100'000, '['), false}};
     for (const auto& [text, isTaken] : cases)
         EXPECT_EQ(json::object(bytesOf(text)).has_value(), isTaken) << text.substr(0, 100);
 }

@@ -63,10 +63,10 @@ TEST(InterfaceTexts, TakesHttpsLinksToAllowedHosts) {
 TEST(InterfaceTexts, ReplaceWhatMayBeReplacedAndNothingElse) {
     const InterfaceTexts builtIn;
     const InterfaceTexts texts(object(
-        R"({"texts":{"about.summary":"Neu.","updates.newest":"No number","welcome.summary":7,"alert.delete":"Go on"},)"
-        R"("links":{"help":"https://www.tavrik.example/hilfe","home":"javascript:void"}})"));
-    EXPECT_EQ(texts.text(InterfaceText::aboutSummary), "Neu.");
-    EXPECT_EQ(texts.link(InterfaceLink::help), "https://www.tavrik.example/hilfe");
+        R"({"texts":{"about.summary":"New.","updates.newest":"No number","welcome.summary":7,"alert.delete":"Go on"},)"
+        R"("links":{"help":"https://www.tavrik.example/handbook","home":"javascript:void"}})"));
+    EXPECT_EQ(texts.text(InterfaceText::aboutSummary), "New.");
+    EXPECT_EQ(texts.link(InterfaceLink::help), "https://www.tavrik.example/handbook");
     for (const InterfaceText kept : {InterfaceText::newestVersion, InterfaceText::welcomeSummary})
         EXPECT_EQ(texts.text(kept), builtIn.text(kept));
     EXPECT_EQ(texts.link(InterfaceLink::home), builtIn.link(InterfaceLink::home));
@@ -141,22 +141,18 @@ TEST(UpdateCheck, OffersTheHighestReleaseThatRunsHere) {
 TEST(FetchSchedule, WaitsADayAfterAnAnswerAndEverLongerAfterFailures) {
     const Date now{800'000'000};
     const auto ago = [now](double hours) { return Date{now.sinceReference - hours * 3600}; };
-
-    const struct {
-        FetchHistory history;
-        bool isDue;
-    } cases[] = {{{}, true},
-                 {{.answered = ago(23.99), .failed = {}}, false},
-                 {{.answered = ago(24), .failed = {}}, true},
-                 {{.answered = ago(-1), .failed = {}}, true},
-                 {{.answered = ago(30), .failed = ago(0.99), .failures = 1}, false},
-                 {{.answered = ago(30), .failed = ago(1), .failures = 1}, true},
-                 {{.answered = {}, .failed = ago(3.99), .failures = 3}, false},
-                 {{.answered = {}, .failed = ago(4), .failures = 3}, true},
-                 {{.answered = {}, .failed = ago(23.99), .failures = 100}, false},
-                 {{.answered = {}, .failed = ago(24), .failures = 100}, true},
-                 {{.answered = {}, .failed = ago(-1), .failures = 3}, true}};
-
+    const std::pair<FetchHistory, bool> cases[] = {
+        {{}, true},
+        {{.answered = ago(23.99), .failed = {}}, false},
+        {{.answered = ago(24), .failed = {}}, true},
+        {{.answered = ago(-1), .failed = {}}, true},
+        {{.answered = ago(30), .failed = ago(0.99), .failures = 1}, false},
+        {{.answered = ago(30), .failed = ago(1), .failures = 1}, true},
+        {{.answered = {}, .failed = ago(3.99), .failures = 3}, false},
+        {{.answered = {}, .failed = ago(4), .failures = 3}, true},
+        {{.answered = {}, .failed = ago(23.99), .failures = 100}, false},
+        {{.answered = {}, .failed = ago(24), .failures = 100}, true},
+        {{.answered = {}, .failed = ago(-1), .failures = 3}, true}};
     for (const auto& [history, isDue] : cases)
         EXPECT_EQ(isFetchDue(history, now), isDue) << now.sinceReference << " " << history.failures;
 }

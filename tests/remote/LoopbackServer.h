@@ -1,5 +1,8 @@
 #pragma once
 
+#include "support/WaitFor.h"
+
+#include <QCoreApplication>
 #include <QSslConfiguration>
 #include <QSslSocket>
 #include <QTcpServer>
@@ -12,6 +15,26 @@
 #include <vector>
 
 namespace tavrik::test {
+
+/// An application for one test, and waiting while its events run.
+class EventLoop {
+public:
+    template<typename Predicate>
+    [[nodiscard]] bool until(Predicate predicate, std::chrono::milliseconds limit = std::chrono::seconds(10)) {
+        return waitFor(
+            [&] {
+                QCoreApplication::processEvents();
+                return predicate();
+            },
+            limit);
+    }
+
+private:
+    int m_count = 1;
+    char m_name[6] = "tests";
+    char* m_arguments[2] = {m_name, nullptr};
+    QCoreApplication m_application{m_count, m_arguments};
+};
 
 /// A real HTTP server on this machine, in the event loop of the test. It sends what it is told, byte for byte.
 class LoopbackServer : public QTcpServer {

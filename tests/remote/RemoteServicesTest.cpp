@@ -1,6 +1,5 @@
 #include "remote/RemoteServices.h"
 
-#include "EventLoop.h"
 #include "LoopbackServer.h"
 #include "Signing.h"
 #include "platform/practice/PracticeDefaults.h"
@@ -22,12 +21,6 @@ using test::payload;
 using test::Signer;
 using Stage = UpdateStatus::Stage;
 
-struct OldMac : Machine {
-    std::optional<std::string> serialNumber() const override { return std::nullopt; }
-
-    SystemVersion systemVersion() const override { return {14, 2, 0}; }
-};
-
 std::string texts(int serial, const std::string& summary) {
     return payload("texts", serial, R"("texts":{"about.summary":")" + summary + R"("},"links":{})");
 }
@@ -44,7 +37,7 @@ protected:
         set("UIStringsURL", server.address("/v1/texts"));
         set("UpdateFeedURL", server.address("/v1/updates"));
         set("NetworkStarts", 2);
-        publish(kGood.sign(texts(5, "Neu.")), kGood.sign(updates(5, "2.0")));
+        publish(kGood.sign(texts(5, "New.")), kGood.sign(updates(5, "2.0")));
     }
 
     /// As another program would, while this one does not run.
@@ -66,8 +59,8 @@ protected:
         services.reset();
         RemoteServices::Options options{.version = "1.0", .keys = {kGood.key()}, .http = {}, .isBusy = {}};
         options.isBusy = [this] { return isBusy; };
-        services =
-            std::make_unique<RemoteServices>(RemoteServices::Ports{defaults, machine, mac.clock}, options);
+        services = std::make_unique<RemoteServices>(RemoteServices::Ports{defaults, mac.mac.machine, mac.clock},
+                                                    options);
         services->startUp();
         ASSERT_TRUE(loop.until([&] { return services->isReady(); }));
         settle();
@@ -109,7 +102,6 @@ protected:
     test::LoopbackServer server;
     test::SmallMac mac;
     practice::PracticeDefaults defaults{mac.files};
-    OldMac machine;
     bool isBusy = false;
     std::unique_ptr<RemoteServices> services;
 };
@@ -134,13 +126,13 @@ TEST_F(Services, AskNobodyBeforeThePersonWasAskedAndAllowedIt) {
     services->choose(true, false);
     settle();
     EXPECT_EQ(server.requests.size(), 1u);
-    EXPECT_EQ(summary(), "Neu.");
+    EXPECT_EQ(summary(), "New.");
     services->choose(false, false);
     EXPECT_EQ(summary(), kBuiltIn);
 }
 
 TEST_F(Services, SendThisRequestAndNoOther) {
-    publish(kGood.sign(texts(5, "Neu.")), "", "Set-Cookie: you=1\r\nETag: \"five\"\r\n");
+    publish(kGood.sign(texts(5, "New.")), "", "Set-Cookie: you=1\r\nETag: \"five\"\r\n");
     startAllowed(false);
     const std::string host = server.address("").substr(7);
     const std::string request = "GET /v1/texts HTTP/1.1\r\nHost: " + host + "\r\nUser-Agent: Tavrik\r\n" +
@@ -167,14 +159,14 @@ TEST_F(Services, AskEachServiceOnceADayAcrossStarts) {
     for (int start = 0; start < 3; ++start) {
         pass(7);
         this->start();
-        EXPECT_EQ(summary(), "Neu.");
+        EXPECT_EQ(summary(), "New.");
         EXPECT_TRUE(services->updates().isOffered) << "out of what was kept";
     }
     EXPECT_EQ(server.requests.size(), 2u);
-    publish(kGood.sign(texts(6, "Neuer.")), kGood.sign(updates(6, "2.1")));
+    publish(kGood.sign(texts(6, "Newer.")), kGood.sign(updates(6, "2.1")));
     pass(3);
     EXPECT_EQ(server.requests.size(), 4u);
-    EXPECT_EQ(summary(), "Neuer.");
+    EXPECT_EQ(summary(), "Newer.");
 
     setBetweenStarts("UIStringsCacheDate", Date{900'000'000});
     start();
@@ -190,7 +182,7 @@ TEST_F(Services, BackOffAfterFailuresAndKeepWhatTheyHad) {
     start();
     EXPECT_EQ(server.requests.size(), 1u + 2)
         << "1 hour later; the next is due 2 hours after that, whatever is started in between";
-    EXPECT_EQ(summary(), "Neu.");
+    EXPECT_EQ(summary(), "New.");
     EXPECT_EQ(textsFailure(), RemoteFailure::refused);
     pass(1 + 4 + 8 + 16 + 24 + 24);
     EXPECT_EQ(server.requests.size(), 1u + 8);
@@ -199,17 +191,17 @@ TEST_F(Services, BackOffAfterFailuresAndKeepWhatTheyHad) {
 TEST_F(Services, KeepWhatTheyHadWhereAnAnswerIsNotToBeUsed) {
     startAllowed();
     const std::pair<std::string, RemoteFailure> cases[] = {
-        {kGood.sign(texts(4, "Alt.")), RemoteFailure::notTrusted},
-        {Signer("current-9", 7).sign(texts(6, "Boese.")), RemoteFailure::notTrusted},
+        {kGood.sign(texts(4, "Old.")), RemoteFailure::notTrusted},
+        {Signer("current-9", 7).sign(texts(6, "Evil.")), RemoteFailure::notTrusted},
         {kGood.sign(payload("texts", 6, R"("texts":[])")), RemoteFailure::notUnderstood},
         {std::string(300'000, ' '), RemoteFailure::tooLarge}};
     for (const auto& [answer, failure] : cases) {
         publish(answer, "");
         pass(24);
         EXPECT_EQ(textsFailure(), failure) << answer.substr(0, 300);
-        EXPECT_EQ(summary(), "Neu.");
+        EXPECT_EQ(summary(), "New.");
     }
-    publish(kGood.sign(texts(5, "Neu.")), "");
+    publish(kGood.sign(texts(5, "New.")), "");
     pass(24);
     EXPECT_EQ(textsFailure(), std::nullopt);
 }
@@ -222,14 +214,14 @@ TEST_F(Services, BelieveNeitherTheirCacheNorAnExpiredAnswer) {
     publish("", "");
     const auto bytes = [](const std::string& text) { return plist::Value(Bytes(text.begin(), text.end())); };
     for (const plist::Value& found :
-         {bytes(texts(9, "Boese.")), bytes(kGood.sign(texts(4, "Alt."))), plist::Value("text")}) {
+         {bytes(texts(9, "Evil.")), bytes(kGood.sign(texts(4, "Old."))), plist::Value("text")}) {
         setBetweenStarts("UIStringsCache", found);
         start();
         EXPECT_EQ(summary(), kBuiltIn);
     }
     setBetweenStarts("UIStringsCache", *kept);
     start();
-    EXPECT_EQ(summary(), "Neu.");
+    EXPECT_EQ(summary(), "New.");
     mac.clock.sleep(24h * 100);
     services->fetchDue();
     settle();
@@ -244,13 +236,13 @@ TEST_F(Services, BelieveNeitherTheirCacheNorAnExpiredAnswer) {
 }
 
 TEST_F(Services, TakeNotModifiedForAnAnswerThatIsStillInForce) {
-    publish(kGood.sign(texts(5, "Neu.")), "", "ETag: \"five\"\r\n");
+    publish(kGood.sign(texts(5, "New.")), "", "ETag: \"five\"\r\n");
     startAllowed(false);
     server.replies["/v1/texts"] = {"HTTP/1.1 304 Not Modified\r\n\r\n"};
     pass(24);
     EXPECT_EQ(server.requests.size(), 2u);
     EXPECT_EQ(textsFailure(), std::nullopt);
-    EXPECT_EQ(summary(), "Neu.");
+    EXPECT_EQ(summary(), "New.");
     pass(23);
     EXPECT_EQ(server.requests.size(), 2u);
 
