@@ -1,4 +1,4 @@
-#include "platform/practice/BookmarkCodec.h"
+#include "platform/BookmarkPath.h"
 
 #include <cstdlib>
 
@@ -6,7 +6,7 @@ using namespace tavrik;
 
 /// Any bookmark gives an error or an absolute path without a component that leads elsewhere.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto path = practice::decodeBookmarkPath(ByteView(data, size));
+    const auto path = pathInBookmark(ByteView(data, size));
     if (!path)
         return 0;
     const std::string text = path->string() == "/" ? "/" : path->string() + "/";

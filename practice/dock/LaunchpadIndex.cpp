@@ -1,7 +1,7 @@
 #include "practice/dock/LaunchpadIndex.h"
 
+#include "platform/BookmarkPath.h"
 #include "platform/Random.h"
-#include "platform/practice/BookmarkCodec.h"
 #include "practice/dock/RegisteredBundle.h"
 
 #include <sqlite3.h>
@@ -72,7 +72,7 @@ std::optional<LaunchpadIndex::RowsByPath> LaunchpadIndex::rowsByPath() {
         const auto bookmark = statement.blob(1);
         if (!row || !bookmark)
             continue;
-        if (auto path = decodeBookmarkPath(*bookmark))
+        if (auto path = pathInBookmark(*bookmark))
             rows.emplace(std::move(*path), *row);
     }
     if (step == sqlite::Step::failed)

@@ -5,6 +5,7 @@
 #include "platform/Icns.h"
 #include "platform/Png.h"
 #include "platform/StandardPicture.h"
+#include "platform/SystemPicture.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -155,6 +156,15 @@ Result<QImage> readPixels(ByteView data, const QByteArray& format, const Refusal
     return picture;
 }
 
+/// What the system alone knows, such as the photographs of its cameras.
+Result<QImage> readBySystem(ByteView data, QSize size, const Refusal& refusal) {
+    constexpr int mostBitsPerPixel = 64;
+    if (isTooLarge(size, mostBitsPerPixel))
+        return refusal.tooLarge(size);
+    const QImage picture = decodedBySystem(data);
+    return picture.isNull() ? Result<QImage>(refusal.damaged()) : picture;
+}
+
 Result<QImage> readDrawing(ByteView drawing, const Refusal& refusal) {
     if (refersToOtherFiles(drawing))
         return refusal.incompleteDrawing();
@@ -182,6 +192,8 @@ Result<QImage> readPicture(ByteView data, std::string_view name) {
         return pictureFormat(*drawing) == PictureFormat::svg ? readDrawing(*drawing, refusal)
                                                              : refusal.unknown();
     }
+    if (const auto size = format ? std::nullopt : sizeOfSystemPicture(data))
+        return readBySystem(data, *size, refusal);
     const QByteArray reader = format ? QByteArray(readerName(*format)) : pluginFormat(data);
     if (reader.isEmpty())
         return refusal.unknown();

@@ -1,6 +1,7 @@
 #include "platform/Icns.h"
 
 #include "platform/Png.h"
+#include "platform/SystemPicture.h"
 
 #include <QPainter>
 
@@ -125,6 +126,11 @@ QImage decodePNG(ByteView data) {
     return png::decode(data);
 }
 
+QImage decodeJPEG2000(ByteView data) {
+    const auto size = sizeOfSystemPicture(data);
+    return size && std::max(size->width(), size->height()) <= kLargestSide ? decodedBySystem(data) : QImage();
+}
+
 /// Unpacks one channel into every fourth byte, and takes what it read off the data. False when the data ends
 /// first or a run crosses the channel's end.
 bool unpackChannel(ByteView& packed, QImage& image, int shift) {
@@ -196,8 +202,10 @@ QImage decode(ByteView container, const Representation& representation) {
     const std::vector<Element> elements = elementsOf(container);
     const ElementType* type = typeOf(representation.type);
     const std::optional<ByteView> found = find(elements, representation.type);
-    if (!type || !found || isJPEG2000(*found))
+    if (!type || !found)
         return {};
+    if (isJPEG2000(*found))
+        return decodeJPEG2000(*found);
     if (isPNG(*found))
         return decodePNG(*found);
     constexpr std::string_view argb = "ARGB";

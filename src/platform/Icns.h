@@ -23,7 +23,7 @@ struct Representation {
 /// Empty when it is no icon container or its lengths do not add up.
 std::vector<Representation> representations(ByteView container);
 
-/// The picture of one element; null when it is damaged or JPEG 2000, which needs the platform. At most 1024
+/// The picture of one element; null when it is damaged, or JPEG 2000 where the system knows none. At most 1024
 /// pixels a side are decoded.
 QImage decode(ByteView container, const Representation& representation);
 

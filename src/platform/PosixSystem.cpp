@@ -10,16 +10,29 @@
 
 namespace tavrik {
 
-std::error_code flushToDisk(int descriptor) {
-#ifdef __APPLE__
-    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
-        return {};
-#endif
+namespace {
+
+/// Calls again what a signal cut short.
+template<typename Call>
+std::error_code untilDone(Call call) {
     int result = -1;
     do
-        result = ::fsync(descriptor);
-    while (result != 0 && errno == EINTR);
-    return result == 0 ? std::error_code() : lastError();
+        result = call();
+    while (result == -1 && errno == EINTR);
+    return result == -1 ? lastError() : std::error_code();
+}
+
+} // namespace
+
+std::error_code flushToDisk(int descriptor) {
+#ifdef __APPLE__
+    const auto flushed = untilDone([descriptor] { return ::fcntl(descriptor, F_FULLFSYNC); });
+    // Volumes of other kinds, on a network above all, may not know the request. What has failed on the disk
+    // itself must not pass for that.
+    if (!flushed || flushed == std::errc::io_error || flushed == std::errc::no_space_on_device)
+        return flushed;
+#endif
+    return untilDone([descriptor] { return ::fsync(descriptor); });
 }
 
 std::error_code renameExclusively(const std::string& from, const std::string& to) {

@@ -1,5 +1,6 @@
 #include "platform/macos/MacosBookmarks.h"
 
+#include "platform/BookmarkPath.h"
 #include "platform/FileManager.h"
 #include "platform/FileURL.h"
 #include "platform/macos/FoundationText.h"
@@ -53,14 +54,7 @@ Result<MacPath> MacosBookmarks::resolve(ByteView bookmark) const {
 }
 
 Result<MacPath> MacosBookmarks::recordedPath(ByteView bookmark) const {
-    @autoreleasepool {
-        NSDictionary* const values = [NSURL resourceValuesForKeys:@[ NSURLPathKey ]
-                                                 fromBookmarkData:toNSData(bookmark)];
-        id const text = values[NSURLPathKey];
-        if (![text isKindOfClass:NSString.class])
-            return Error{kBookmark.string() + ": records no path"};
-        return MacPath(toString(text));
-    }
+    return pathInBookmark(bookmark);
 }
 
 std::string MacosBookmarks::fileURL(const MacPath& path) const {

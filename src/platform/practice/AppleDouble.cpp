@@ -1,6 +1,6 @@
 #include "platform/practice/AppleDouble.h"
 
-#include "platform/practice/ByteOrder.h"
+#include "platform/ByteOrder.h"
 
 #include <algorithm>
 #include <string>

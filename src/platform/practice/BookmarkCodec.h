@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// The Mac's bookmark data, written and read byte for byte as the system does. Pure; any thread.
+/// The Mac's bookmark data, written byte for byte as the system does. Pure; any thread.
 namespace tavrik::practice {
 
 /// What goes into a bookmark.
@@ -30,11 +30,5 @@ struct BookmarkTarget {
 };
 
 Bytes encodeBookmark(const BookmarkTarget& target);
-
-/// The path that a bookmark records, from "/" (for a volume's root its mount path). An error for what is
-/// damaged, names nothing, is longer than 16 KB, or holds a component that is "", ".", "..", no UTF-8, or has a
-/// "/" or NUL in it. Whether anything is there is not looked at. The container of a Finder alias file is
-/// accepted too.
-Result<MacPath> decodeBookmarkPath(ByteView bookmark);
 
 } // namespace tavrik::practice

@@ -1,6 +1,6 @@
+#include "platform/BookmarkFormat.h"
+#include "platform/ByteOrder.h"
 #include "platform/practice/BookmarkCodec.h"
-#include "platform/practice/BookmarkFormat.h"
-#include "platform/practice/ByteOrder.h"
 
 #include <algorithm>
 #include <array>

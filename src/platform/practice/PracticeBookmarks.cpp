@@ -1,5 +1,6 @@
 #include "platform/practice/PracticeBookmarks.h"
 
+#include "platform/BookmarkPath.h"
 #include "platform/FileManager.h"
 #include "platform/FileURL.h"
 #include "platform/practice/Layout.h"
@@ -70,7 +71,7 @@ Result<Bytes> PracticeBookmarks::make(const MacPath& target) const {
 }
 
 Result<MacPath> PracticeBookmarks::resolve(ByteView bookmark) const {
-    auto path = decodeBookmarkPath(bookmark);
+    auto path = pathInBookmark(bookmark);
     if (!path)
         return path;
     if (auto there = m_files.attributes(*path, Links::dontFollow); !there)
@@ -79,7 +80,7 @@ Result<MacPath> PracticeBookmarks::resolve(ByteView bookmark) const {
 }
 
 Result<MacPath> PracticeBookmarks::recordedPath(ByteView bookmark) const {
-    return decodeBookmarkPath(bookmark);
+    return pathInBookmark(bookmark);
 }
 
 std::string PracticeBookmarks::fileURL(const MacPath& path) const {

@@ -1,6 +1,6 @@
 #include "platform/practice/AppleDouble.h"
 
-#include "platform/practice/ByteOrder.h"
+#include "platform/ByteOrder.h"
 #include "platform/practice/ResourceFork.h"
 
 #include <gmock/gmock.h>

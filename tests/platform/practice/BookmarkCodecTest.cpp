@@ -1,6 +1,7 @@
 #include "platform/practice/BookmarkCodec.h"
 
-#include "platform/practice/ByteOrder.h"
+#include "platform/BookmarkPath.h"
+#include "platform/ByteOrder.h"
 
 #include <QCryptographicHash>
 
@@ -112,7 +113,7 @@ std::string sha256(const Bytes& bytes) {
 
 /// The path, or the error in brackets.
 std::string decoded(ByteView bookmark) {
-    const auto path = decodeBookmarkPath(bookmark);
+    const auto path = pathInBookmark(bookmark);
     return path ? path->string() : "[" + path.error().description + "]";
 }
 

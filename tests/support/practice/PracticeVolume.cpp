@@ -1,9 +1,9 @@
 #include "support/practice/PracticeVolume.h"
 
+#include "platform/BookmarkPath.h"
 #include "platform/PathRules.h"
 #include "platform/PosixFileManager.h"
 #include "platform/Sqlite.h"
-#include "platform/practice/BookmarkCodec.h"
 #include "platform/practice/Layout.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ T value(Result<T> result) {
 }
 
 MacPath recordedPath(ByteView bookmark) {
-    const Result<MacPath> path = practice::decodeBookmarkPath(bookmark);
+    const Result<MacPath> path = pathInBookmark(bookmark);
     return path ? *path : MacPath();
 }
 

@@ -1,12 +1,13 @@
+#include "platform/BookmarkPath.h"
+
+#include "platform/BookmarkFormat.h"
+#include "platform/ByteOrder.h"
 #include "platform/Utf8.h"
-#include "platform/practice/BookmarkCodec.h"
-#include "platform/practice/BookmarkFormat.h"
-#include "platform/practice/ByteOrder.h"
 
 #include <optional>
 #include <string_view>
 
-namespace tavrik::practice {
+namespace tavrik {
 
 namespace {
 
@@ -133,7 +134,7 @@ Result<MacPath> mountPath(std::string_view text) {
 
 } // namespace
 
-Result<MacPath> decodeBookmarkPath(ByteView bookmark) {
+Result<MacPath> pathInBookmark(ByteView bookmark) {
     const auto data = dataPart(bookmark);
     if (!data)
         return damaged();
@@ -158,4 +159,4 @@ Result<MacPath> decodeBookmarkPath(ByteView bookmark) {
     return MacPath(path);
 }
 
-} // namespace tavrik::practice
+} // namespace tavrik

@@ -5,7 +5,7 @@
 /// The numbers of the bookmark format that the encoder and the decoder share. Every number in a bookmark is
 /// little-endian, except dates; every offset counts from the end of the header, where the data part begins with
 /// the offset of its first table of contents.
-namespace tavrik::practice::bookmark {
+namespace tavrik::bookmark {
 
 inline constexpr std::uint32_t kTextRecord = 0x0101;
 inline constexpr std::uint32_t kDataRecord = 0x0201;
@@ -39,4 +39,4 @@ inline constexpr std::uint32_t kFirstTable = 1;
 inline constexpr std::uint32_t kTableHeaderSize = 20; ///< length, mark, identifier, next, count
 inline constexpr std::uint32_t kTableEntrySize = 12;  ///< key, offset, zero
 
-} // namespace tavrik::practice::bookmark
+} // namespace tavrik::bookmark

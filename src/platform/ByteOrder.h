@@ -6,7 +6,7 @@
 #include <cstddef>
 
 /// Numbers in the byte orders of the Mac's formats. The caller has checked that the bytes are there.
-namespace tavrik::practice {
+namespace tavrik {
 
 template<std::unsigned_integral T>
 T readLittle(ByteView bytes, std::size_t offset) {
@@ -45,4 +45,4 @@ inline bool fits(std::size_t size, std::size_t offset, std::size_t length) {
     return offset <= size && length <= size - offset;
 }
 
-} // namespace tavrik::practice
+} // namespace tavrik
