@@ -26,7 +26,7 @@ private:
     practice::PracticeFileManager m_files{m_root.path()};
 };
 
-/// The smallest volume that a program can run on. Its two tools are shell scripts, which know the volume by
+/// The smallest volume that a program can run on. Its tools are shell scripts, which know the volume by
 /// their own path.
 class PracticeAdapter {
 public:
@@ -39,7 +39,10 @@ public:
             *plist::serialize(plist::Dictionary{{"ProductVersion", "14.6.1"}}, plist::Format::xml)));
         install("touch", "#!/bin/sh\n: >> \"${0%/usr/bin/touch}$1\"\n");
         install("killall", "#!/bin/sh\necho 'No matching processes' >&2\nexit 1\n");
+        install("shell", "#!/bin/sh\nexec /bin/sh \"$@\"\n");
     }
+
+    MacPath shell() const { return MacPath("/usr/bin/shell"); }
 
     Mac& mac() { return m_practice.mac(); }
 
