@@ -17,6 +17,7 @@ namespace tavrik::macos {
 namespace {
 
 constexpr int kLargestSide = 1024; // pixels
+constexpr const char* kIconFile = "Icon\r"; // in a folder with an icon of its own
 
 int sideOf(NSImage* icon) {
     NSInteger side = 0;
@@ -94,7 +95,7 @@ bool MacosWorkspace::clearIcon(const MacPath& path) {
     const std::scoped_lock lock(m_changes);
     @autoreleasepool {
         NSString* const text = toNSString(path.string());
-        if (text && hasCustomIcon(path))
+        if (text && (hasCustomIcon(path) || exists(path / kIconFile)))
             [NSWorkspace.sharedWorkspace setIcon:nil forFile:text options:0];
         return !hasCustomIcon(path);
     }

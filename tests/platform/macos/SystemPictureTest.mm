@@ -39,7 +39,7 @@ bool isRed(const QColor& colour) {
 
 } // namespace
 
-TEST(SystemPicture, ReadsWhatTheSystemWroteUpright) {
+TEST(MacosSystemPicture, ReadsWhatTheSystemWroteUpright) {
     constexpr int upsideDown = 3;
     for (NSString* kind in @[ @"public.jpeg-2000", @"public.heic" ]) {
         const Bytes file = coded(kind, @{});
