@@ -110,6 +110,7 @@ protected:
 
 TEST_F(Services, AskNobodyBeforeThePersonWasAskedAndAllowedIt) {
     set("NetworkStarts", 0);
+    set("UIStringsEnabled", true); // half of a choice, which a kill has left
     start();
     EXPECT_FALSE(services->choice().isQuestionDue());
     start();
@@ -219,6 +220,7 @@ TEST_F(Services, BelieveNeitherTheirCacheNorAnExpiredAnswer) {
         start();
         EXPECT_EQ(summary(), kBuiltIn);
     }
+    EXPECT_EQ(server.requests.size(), 2u) << "what cannot be used is asked for again, and then waited for";
     setBetweenStarts("UIStringsCache", *kept);
     start();
     EXPECT_EQ(summary(), "New.");
