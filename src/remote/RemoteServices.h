@@ -62,9 +62,9 @@ public:
     };
 
     struct Options {
-        std::string version;                                 ///< of this program
+        std::string version{};                               ///< of this program
         std::vector<TrustedKey> keys = trustedKeys();        ///< tests bring their own
-        HttpOptions http;                                    ///< likewise
+        HttpOptions http{};                                  ///< likewise
         std::function<bool()> isBusy = [] { return false; }; ///< while it says so, nothing is sent unasked
     };
 

@@ -56,24 +56,27 @@ private:
     bool m_asksFirst;
 };
 
-Result<std::unique_ptr<Program>> Program::open(MacHost& host, WindowAlerts& alerts) {
+Result<std::unique_ptr<Program>> Program::open(MacHost& host, WindowAlerts& alerts,
+                                               RemoteServices::Options remote) {
     Mac& mac = host.mac();
     const MacPath folder = supportFolder(mac.volume);
     ignoreFailure(mac.files.createFolder(folder)); // the lock says it better
     auto lock = SupportFolderLock::take(mac, folder, "Tavrik");
     if (!lock)
         return lock.error();
-    return std::unique_ptr<Program>(new Program(host, alerts, std::move(*lock)));
+    return std::unique_ptr<Program>(new Program(host, alerts, std::move(remote), std::move(*lock)));
 }
 
-Program::Program(MacHost& host, WindowAlerts& alerts, SupportFolderLock lock)
+Program::Program(MacHost& host, WindowAlerts& alerts, RemoteServices::Options remote, SupportFolderLock lock)
     : m_host(host),
       m_lock(std::move(lock)),
       m_managers(host.mac()),
       m_coordinators(m_managers),
       m_delegate(m_managers, m_coordinators, *this),
       m_endNotice(host.mac().localNotifications),
-      m_model({m_host, m_managers, m_coordinators, m_delegate, m_background, m_images, m_notices, m_endNotice},
+      m_remote({host.mac().defaults, host.mac().machine, host.mac().clock}, completed(std::move(remote))),
+      m_model({m_host, m_managers, m_coordinators, m_delegate, m_background, m_images, m_notices, m_endNotice,
+               m_remote},
               alerts) {
     m_engine.addImageProvider(QStringLiteral("icon"), new IconProvider(m_managers.iconCache, m_managers.icons));
     m_engine.addImageProvider(QStringLiteral("glyph"), new GlyphProvider);
@@ -102,6 +105,16 @@ void Program::start() {
     m_main = std::make_unique<Window>(*window, m_delegate, Window::AsksFirst::yes);
     m_background.run(m_main.get(), [this] { m_host.startSession(); }, [] {});
     m_delegate.applicationDidFinishLaunching();
+    // The checks of the start come first, with all that they ask.
+    m_background.run(this, [] {}, [this] { m_remote.startUp(); });
+}
+
+RemoteServices::Options Program::completed(RemoteServices::Options remote) {
+    remote.version = QCoreApplication::applicationVersion().toStdString();
+    remote.isBusy = [this] {
+        return m_model.isBlocked() || m_model.apply()->stage() != ApplyModel::Stage::Idle;
+    };
+    return remote;
 }
 
 QQuickWindow* Program::mainWindow() const {

@@ -6,6 +6,7 @@
 #include "app/SharedCoordinators.h"
 #include "model/SupportFolderLock.h"
 #include "platform/Result.h"
+#include "remote/RemoteServices.h"
 #include "ui/EnglishPlurals.h"
 #include "ui/models/Background.h"
 #include "ui/models/EndNotice.h"
@@ -29,8 +30,9 @@ class WindowAlerts;
 class Program : public QObject, private ApplicationFace {
 public:
     /// Takes the right to write. The error, in a sentence, says who has it, or why it cannot be taken.
-    /// `alerts` is what the Mac asks through; both outlive the program.
-    static Result<std::unique_ptr<Program>> open(MacHost& host, WindowAlerts& alerts);
+    /// `alerts` is what the Mac asks through; both outlive the program. Of `remote` the version is filled in.
+    static Result<std::unique_ptr<Program>> open(MacHost& host, WindowAlerts& alerts,
+                                                 RemoteServices::Options remote = {});
 
     ~Program() override;
 
@@ -56,13 +58,14 @@ protected:
 private:
     class Window;
 
-    Program(MacHost& host, WindowAlerts& alerts, SupportFolderLock lock);
+    Program(MacHost& host, WindowAlerts& alerts, RemoteServices::Options remote, SupportFolderLock lock);
 
     void disableAutomaticTabbing() override {}
 
     std::vector<ManagedWindow*> openWindows() override;
     void openSettings() override;
     void terminate() override;
+    RemoteServices::Options completed(RemoteServices::Options remote);
 
     MacHost& m_host;
     SupportFolderLock m_lock;
@@ -74,6 +77,7 @@ private:
     Notices m_notices;
     EndNotice m_endNotice;
     Background m_background{m_delegate};
+    RemoteServices m_remote;
     WindowModel m_model;
     QQmlApplicationEngine m_engine;
     std::unique_ptr<Window> m_main;

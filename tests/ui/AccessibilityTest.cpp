@@ -27,7 +27,11 @@ class Accessibility : public UiStage {};
 
 TEST_F(Accessibility, EverythingThatCanBeFocusedHasANameAndNoViewIsATrap) {
     QAccessible::setActive(true);
+    NetworkConsent(mac.defaults).countStart();
+    isWelcomed = false;
+    isNetworkAsked = false;
     start();
+    model().endFirstStart();
     for (const Scene& scene : allScenes()) {
         QQuickWindow* const shown = scene.show(*program);
         ASSERT_NE(shown, nullptr) << scene.name.toStdString();

@@ -8,6 +8,7 @@
 #include "support/practice/VirtualMac.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
+#include "ui/screens/SampleServer.h"
 #include "ui/screens/Stagehand.h"
 
 #include <QGuiApplication>
@@ -50,7 +51,10 @@ protected:
         program.reset();
         if (isWelcomed)
             ignoreFailure(mac.defaults.set("Welcomed", plist::Value(true)));
-        auto opened = Program::open(host, alerts);
+        if (isNetworkAsked) {
+            EXPECT_TRUE(NetworkConsent(mac.defaults).write({.starts = 2, .isAsked = true}));
+        }
+        auto opened = Program::open(host, alerts, {.keys = SampleServer::keys()});
         ASSERT_TRUE(opened) << opened.error().description;
         program = std::move(*opened);
         program->start();
@@ -92,6 +96,7 @@ private:
             return;
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         application = new QGuiApplication(argumentCount, nullptr);
+        QGuiApplication::setApplicationVersion(QStringLiteral("1.2.0"));
         QQuickStyle::setStyle(QStringLiteral("Basic"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
     }
@@ -106,7 +111,8 @@ protected:
               mac.defaults, mac.machine, clock,         alerts,        mac.random, messages};
     Host host{whole};
     std::unique_ptr<Program> program;
-    bool isWelcomed = true; ///< the page of the first start was seen
+    bool isWelcomed = true;     ///< the page of the first start was seen
+    bool isNetworkAsked = true; ///< and the question about the network answered, with a no
 };
 
 } // namespace tavrik::test

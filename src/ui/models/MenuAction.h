@@ -24,7 +24,7 @@ class MenuAction : public QObject {
 
 public:
     /// Where a Mac puts it by itself.
-    enum class Role { Plain, About, Preferences, Quit };
+    enum class Role { Plain, About, Program, Preferences, Quit };
     Q_ENUM(Role)
 
     /// What it says and does. What is left out is empty, allowed, and not checkable.

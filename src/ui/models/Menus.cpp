@@ -52,6 +52,10 @@ void Menus::addProgram() {
               .run = [this] { m_window.ask(Request::About); },
               .isEnabled = allowed,
               .role = MenuAction::Role::About});
+    menu.add({.text = [] { return tr("Check for Updates…"); },
+              .run = [this] { m_window.updates()->offer()->check(); },
+              .isEnabled = allowed,
+              .role = MenuAction::Role::Program});
     menu.addSeparator();
     menu.add(
         {.text = [] { return tr("Settings…"); },
@@ -150,6 +154,9 @@ void Menus::addWindow() {
 
 void Menus::addHelp() {
     MenuColumn& menu = addColumn(tr("Help"));
+    menu.add({.text = [] { return tr("Tavrik Help"); },
+              .run = [this] { m_window.words()->open(InterfaceWords::Page::Help); },
+              .isEnabled = [this] { return isAllowed(); }});
     for (const auto& [text, what] : {std::pair(QT_TR_NOOP("How Tavrik Works"), Request::Welcome),
                                      std::pair(QT_TR_NOOP("Check the Health…"), Request::Health),
                                      std::pair(QT_TR_NOOP("Leave Tavrik…"), Request::Leave)}) {

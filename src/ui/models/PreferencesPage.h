@@ -26,7 +26,7 @@ class PreferencesPage : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed) ///< something could not be saved, in a sentence
 
 public:
-    enum class Tab { Backups, Themes, Icons, Health, Leave };
+    enum class Tab { Backups, Themes, Icons, Health, Updates, Leave };
     Q_ENUM(Tab)
 
     PreferencesPage(const UiServices& with, ThemeLook& themeLook);

@@ -8,6 +8,7 @@ class EndNotice;
 class Images;
 class MacHost;
 class Notices;
+class RemoteServices;
 class SharedCoordinators;
 struct Managers;
 
@@ -21,6 +22,7 @@ struct UiServices {
     Images& images;
     Notices& notices;
     EndNotice& endNotice;
+    RemoteServices& remote;
 };
 
 } // namespace tavrik

@@ -5,6 +5,7 @@
 #include "app/Managers.h"
 #include "platform/Mac.h"
 #include "platform/UserDefaults.h"
+#include "remote/RemoteServices.h"
 
 #include <QEvent>
 #include <QPalette>
@@ -32,14 +33,21 @@ WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
       m_health(with),
       m_leaving(with),
       m_preferences(with, m_themeLook),
+      m_words(with),
+      m_updates(with, m_words),
       m_isFirstStart(!with.host.mac().defaults.value(kWelcomed)),
+      m_wasWelcomed(!m_isFirstStart),
       m_menus(*this, with.delegate) {
     qGuiApp->installEventFilter(this);
     with.delegate.setStateObserver([this] { stateMayHaveChanged(); });
     m_observations.push_back(with.managers.notificationCenter.observe(std::string(kPendingChangesUpdated),
                                                                       [this] { stateMayHaveChanged(); }));
-    QObject::connect(&m_apply, &ApplyModel::changed, this, [this] { m_menus.refresh(); });
-    QObject::connect(&m_alerts, &WindowAlerts::changed, this, [this] { m_menus.refresh(); });
+    with.remote.setChanged([this] {
+        m_updates.refresh();
+        Q_EMIT m_words.changed();
+    });
+    QObject::connect(&m_apply, &ApplyModel::changed, this, &WindowModel::occupationMayHaveChanged);
+    QObject::connect(&m_alerts, &WindowAlerts::changed, this, &WindowModel::occupationMayHaveChanged);
     QObject::connect(&m_edits, &EditActions::changed, this, [this] { m_menus.refresh(); });
     // An apply gives icon files other numbers.
     m_observations.push_back(with.managers.notificationCenter.observe(
@@ -52,7 +60,15 @@ void WindowModel::stateMayHaveChanged() {
         m_edits.begin();
     }
     Q_EMIT stateChanged();
+    occupationMayHaveChanged();
+}
+
+/// The question about the network comes when nothing else wants an answer, and not in the same breath as the
+/// welcome.
+void WindowModel::occupationMayHaveChanged() {
     m_menus.refresh();
+    m_updates.setWindowFree(m_wasWelcomed && !isBlocked() && m_apply.stage() == ApplyModel::Stage::Idle &&
+                            !m_alerts.isShown());
 }
 
 void WindowModel::ask(Request request) {

@@ -8,6 +8,7 @@
 #include "ui/models/FontsPage.h"
 #include "ui/models/HealthPage.h"
 #include "ui/models/Images.h"
+#include "ui/models/InterfaceWords.h"
 #include "ui/models/LeavingPage.h"
 #include "ui/models/Menus.h"
 #include "ui/models/Notices.h"
@@ -15,6 +16,7 @@
 #include "ui/models/PreviewModel.h"
 #include "ui/models/ThemesPage.h"
 #include "ui/models/UiServices.h"
+#include "ui/models/UpdatesPage.h"
 #include "ui/models/WindowAlerts.h"
 
 #include <QGuiApplication>
@@ -41,6 +43,8 @@ class WindowModel : public QObject {
     Q_PROPERTY(tavrik::HealthPage* health READ health CONSTANT)
     Q_PROPERTY(tavrik::LeavingPage* leaving READ leaving CONSTANT)
     Q_PROPERTY(tavrik::PreferencesPage* preferences READ preferences CONSTANT)
+    Q_PROPERTY(tavrik::UpdatesPage* updates READ updates CONSTANT)
+    Q_PROPERTY(tavrik::InterfaceWords* words READ words CONSTANT)
     Q_PROPERTY(tavrik::WindowAlerts* alerts READ alerts CONSTANT)
     Q_PROPERTY(tavrik::Images* images READ images CONSTANT)
     Q_PROPERTY(tavrik::Notices* notices READ notices CONSTANT)
@@ -98,6 +102,10 @@ public:
     LeavingPage* leaving() { return &m_leaving; }
 
     PreferencesPage* preferences() { return &m_preferences; }
+
+    UpdatesPage* updates() { return &m_updates; }
+
+    InterfaceWords* words() { return &m_words; }
 
     WindowAlerts* alerts() { return &m_alerts; }
 
@@ -164,11 +172,15 @@ private:
     HealthPage m_health;
     LeavingPage m_leaving;
     PreferencesPage m_preferences;
+    InterfaceWords m_words;
+    UpdatesPage m_updates;
     Place m_place = Place::UserApps;
     bool m_showsPreview = false;
     bool m_isFirstStart;
+    const bool m_wasWelcomed; ///< before this start
     bool m_wasStarting = true;
     void stateMayHaveChanged();
+    void occupationMayHaveChanged();
 
     Menus m_menus;
     std::vector<NotificationCenter::Observation> m_observations;

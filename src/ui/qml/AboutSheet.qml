@@ -33,13 +33,24 @@ Sheet {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            text: qsTr("Restyles Launchpad and the Dock, and never touches an app.")
+            text: sheet.model.words.aboutSummary
         }
-        PushButton {
+        Row {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: qsTr("Close")
-            focus: true
-            onClicked: sheet.close()
+            topPadding: 6
+            spacing: Style.gap
+
+            PushButton {
+                objectName: "about-website"
+                text: qsTr("Website")
+                hint: qsTr("Opens in your browser")
+                onClicked: sheet.model.words.open(InterfaceWords.Home)
+            }
+            PushButton {
+                text: qsTr("Close")
+                focus: true
+                onClicked: sheet.close()
+            }
         }
     }
 

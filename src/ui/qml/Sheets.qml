@@ -11,5 +11,13 @@ Item {
     AboutSheet { model: sheets.model }
     ApplySheet { model: sheets.model }
     ProgressSheet { model: sheets.model }
+    ConsentSheet { model: sheets.model }
+    UpdateSheet {
+        model: sheets.model
+        onAboutToShow: { // asked for in the settings, it may
+            sheets.Window.window.raise()
+            sheets.Window.window.requestActivate()
+        }
+    }
     AlertSheet { alerts: sheets.model.alerts }
 }

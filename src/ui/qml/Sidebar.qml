@@ -61,7 +61,23 @@ Rectangle {
             onClicked: sidebar.model.place = WindowModel.Fonts
         }
     }
+    SidebarItem {
+        objectName: "update-available"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: staged.top
+        anchors.margins: 10
+        anchors.bottomMargin: 0
+        visible: sidebar.model.updates.offer.newVersion
+        text: qsTr("Tavrik %1 is available").arg(sidebar.model.updates.offer.newVersion)
+        glyph: "download"
+        glyphColor: Style.accent
+        Accessible.role: Accessible.Button
+        onClicked: sidebar.model.updates.offer.show()
+    }
     StagedBar {
+        id: staged
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom

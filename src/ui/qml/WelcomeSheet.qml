@@ -18,43 +18,6 @@ Sheet {
         model.endFirstStart()
     }
 
-    component Point: Row {
-        id: point
-
-        property string glyph
-        property string title
-        property string text
-
-        width: parent.width
-        spacing: Style.margin
-
-        Glyph {
-            id: sign
-
-            y: 2
-            name: point.glyph
-            size: 26
-            color: Style.accent
-        }
-        Column {
-            width: parent.width - sign.width - point.spacing
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: point.title
-                wrapMode: Text.Wrap
-                font.weight: Font.DemiBold
-            }
-            Label {
-                width: parent.width
-                text: point.text
-                wrapMode: Text.Wrap
-                color: Style.secondary
-            }
-        }
-    }
-
     Column {
         id: column
 
@@ -64,27 +27,32 @@ Sheet {
         Label {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: qsTr("Welcome to Tavrik")
+            text: sheet.model.words.welcomeSummary
+            wrapMode: Text.Wrap
             font.pixelSize: Style.titleText
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        Point {
+        PointRow {
+            width: parent.width
             glyph: "apps"
             title: qsTr("Your Launchpad and Dock, as you like them")
             text: qsTr("Give apps other icons, one by one or by whole themes, and write their names in another alphabet.")
         }
-        Point {
+        PointRow {
+            width: parent.width
             glyph: "lock"
             title: qsTr("Your apps are never touched")
             text: qsTr("Each restyled app gets a small stand-in with its own icon. The app itself stays exactly as it is, and keeps updating.")
         }
-        Point {
+        PointRow {
+            width: parent.width
             glyph: "eye"
             title: qsTr("Nothing changes until you apply")
             text: qsTr("What you do is collected first, and you see it before it happens. Applying makes a backup, then restarts the Dock.")
         }
-        Point {
+        PointRow {
+            width: parent.width
             glyph: "leave"
             title: qsTr("Leave at any time")
             text: qsTr("The Help menu takes everything back: every icon, every name, every place. So does any backup.")

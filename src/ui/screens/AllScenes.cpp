@@ -5,7 +5,7 @@ namespace tavrik {
 std::vector<Scene> allScenes() {
     std::vector<Scene> scenes;
     for (const auto& some : {windowScenes(), applicationsScenes(), themesScenes(), fontsScenes(),
-                             previewScenes(), applyScenes(), settingsScenes()})
+                             previewScenes(), applyScenes(), settingsScenes(), updatesScenes()})
         scenes.insert(scenes.end(), some.begin(), some.end());
     return scenes;
 }

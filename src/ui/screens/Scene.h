@@ -28,5 +28,6 @@ std::vector<Scene> fontsScenes();
 std::vector<Scene> previewScenes();
 std::vector<Scene> applyScenes();
 std::vector<Scene> settingsScenes();
+std::vector<Scene> updatesScenes(); ///< of a program that was opened with the keys of `SampleServer`
 
 } // namespace tavrik

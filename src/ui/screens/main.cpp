@@ -1,9 +1,11 @@
 #include "app/practice/PracticeHost.h"
+#include "platform/Mac.h"
 #include "platform/Threads.h"
 #include "ui/InterfaceFont.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 #include "ui/screens/PseudoLocale.h"
+#include "ui/screens/SampleServer.h"
 #include "ui/screens/Scene.h"
 #include "ui/screens/Stagehand.h"
 
@@ -62,6 +64,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral(TAVRIK_VERSION));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     useInterfaceFont();
 
@@ -93,7 +96,9 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", host.error().description.c_str());
         return 1;
     }
-    const auto program = Program::open(**host, alerts);
+    // The second start: the question about the network is due.
+    NetworkConsent((*host)->mac().defaults).countStart();
+    const auto program = Program::open(**host, alerts, {.keys = SampleServer::keys()});
     if (!program) {
         std::fprintf(stderr, "%s\n", program.error().description.c_str());
         return 1;

@@ -8,6 +8,7 @@ T.Button {
     property string glyph
     property string count
     property bool isCurrent: false
+    property color glyphColor: isCurrent ? Style.accent : Style.secondary
 
     implicitHeight: 30
     leftPadding: 10
@@ -26,7 +27,7 @@ T.Button {
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: item.glyph
-            color: item.isCurrent ? Style.accent : Style.secondary
+            color: item.glyphColor
         }
         Label {
             anchors.left: sign.right

@@ -26,6 +26,7 @@ P.MenuBar {
                     checked: modelData.isChecked
                     separator: modelData.isSeparator
                     role: modelData.role === MenuAction.About ? P.MenuItem.AboutRole
+                        : modelData.role === MenuAction.Program ? P.MenuItem.ApplicationSpecificRole
                         : modelData.role === MenuAction.Preferences ? P.MenuItem.PreferencesRole
                         : modelData.role === MenuAction.Quit ? P.MenuItem.QuitRole : P.MenuItem.NoRole
                     onTriggered: modelData.trigger()

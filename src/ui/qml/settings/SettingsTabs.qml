@@ -47,6 +47,13 @@ Rectangle {
             onClicked: tabs.preferences.tab = PreferencesPage.Health
         }
         SettingsTab {
+            objectName: "tab-updates"
+            text: qsTr("Updates")
+            glyph: "update"
+            isCurrent: tabs.preferences.tab === PreferencesPage.Updates
+            onClicked: tabs.preferences.tab = PreferencesPage.Updates
+        }
+        SettingsTab {
             objectName: "tab-leave"
             text: qsTr("Leave")
             glyph: "leave"

@@ -33,7 +33,7 @@ C.ApplicationWindow {
         anchors.bottom: parent.bottom
         active: window.visible
         focus: true
-        sourceComponent: [backups, themes, icons, health, leave][window.preferences.tab]
+        sourceComponent: [backups, themes, icons, health, updates, leave][window.preferences.tab]
     }
 
     Component {
@@ -55,6 +55,11 @@ C.ApplicationWindow {
         id: health
 
         HealthTab { model: window.model }
+    }
+    Component {
+        id: updates
+
+        UpdatesTab { model: window.model }
     }
     Component {
         id: leave
