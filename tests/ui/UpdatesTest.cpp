@@ -5,10 +5,23 @@
 #include <QDesktopServices>
 #include <QJsonArray>
 
+#include <sys/stat.h>
+
 namespace tavrik::test {
 
 using namespace testing;
 using Stage = UpdateOffer::Stage;
+
+/// Of this process, those that listen included.
+int openSockets() {
+    constexpr int kMost = 1024;
+    int count = 0;
+    for (int descriptor = 0; descriptor < kMost; ++descriptor) {
+        struct stat status{};
+        count += fstat(descriptor, &status) == 0 && S_ISSOCK(status.st_mode) ? 1 : 0;
+    }
+    return count;
+}
 
 /// Remembers what the browser was to open.
 class Browser : public QObject {
@@ -81,11 +94,24 @@ protected:
 TEST_F(UpdatesTest, AsksOnceAtTheSecondStartAndSendsNothingBefore) {
     isNetworkAsked = false;
     isWelcomed = false;
+    const int before = openSockets();
     startWhole();
     ASSERT_TRUE(isShown("welcome-start"));
     press(window(), Qt::Key_Return);
     settled(window());
     EXPECT_EQ(find(QStringLiteral("consent-no")), nullptr) << "not at the first start";
+
+    using Place = WindowModel::Place;
+    for (const Place place : {Place::SystemApps, Place::Themes, Place::Fonts, Place::UserApps})
+        model().goTo(place);
+    model().openSettings();
+    model().preferences()->setTab(PreferencesPage::Tab::Updates);
+    settled(program->settingsWindow());
+    program->settingsWindow()->close();
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    program->delegate().applyChanges();
+    ASSERT_TRUE(waitFor([&] { return model().apply()->stage() == ApplyModel::Stage::Result; }, 60'000));
+    EXPECT_EQ(openSockets(), before);
 
     startWhole();
     ASSERT_TRUE(isShown("consent-yes"));
@@ -93,22 +119,27 @@ TEST_F(UpdatesTest, AsksOnceAtTheSecondStartAndSendsNothingBefore) {
     startWhole();
     ASSERT_TRUE(isShown("consent-yes")) << "who quits has not answered";
     EXPECT_EQ(server.requests(), 0);
+    EXPECT_EQ(openSockets(), before);
 
     press(window(), Qt::Key_Return);
     press(window(), Qt::Key_Space);
     settled(window());
     EXPECT_NE(find(QStringLiteral("consent-no")), nullptr) << "a key meant for the list answers nothing";
+    server.keepSilent(true);
     press(window(), Qt::Key_Tab);
     press(window(), Qt::Key_Right);
     press(window(), Qt::Key_Return);
     EXPECT_TRUE(waitFor([&] { return server.requests() == 2; })) << "one for each service";
-    EXPECT_TRUE(isShown("update-available"));
+    EXPECT_EQ(openSockets(), before + 4) << "both ends of each";
     EXPECT_TRUE(waitFor([&] { return NetworkConsent(mac.defaults).read().isAsked; }));
 
+    server.keepSilent(false);
+    startWhole();
+    EXPECT_TRUE(isShown("update-available"));
     startWhole();
     EXPECT_TRUE(isShown("update-available")) << "out of what is kept";
     EXPECT_EQ(find(QStringLiteral("consent-yes")), nullptr);
-    EXPECT_EQ(server.requests(), 2) << "not again on the same day";
+    EXPECT_EQ(server.requests(), 4) << "not again on the same day";
 }
 
 TEST_F(UpdatesTest, TakesEveryNoForGood) {
