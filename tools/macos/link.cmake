@@ -1,4 +1,5 @@
-# Every program is linked by tools/macos/link. And this machine's own headers stay out, whichever library names their folder.
+# Every program is linked by tools/macos/link. And this machine's own headers stay out, whichever library names
+# their folder.
 enable_language(OBJCXX) # before what is set for it here, which it would set anew
 foreach(language CXX OBJCXX)
     set(CMAKE_${language}_LINK_EXECUTABLE

@@ -1,5 +1,5 @@
-# Builds for a Mac on a machine that is none: clang with a macOS SDK folder, and tools/macos/link in the linker's place. tools/check-macos says which
-# folder and which processor; nothing that is made can run.
+# Builds for a Mac on a machine that is none: clang with a macOS SDK folder, and tools/macos/link in the
+# linker's place. tools/check-macos says which folder and which processor; nothing that is made can run.
 set(CMAKE_SYSTEM_NAME Darwin)
 string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR "$ENV{TAVRIK_MACOS_TARGET}")
 set(CMAKE_OSX_SYSROOT "")
@@ -18,7 +18,8 @@ foreach(language CXX OBJCXX)
         -isystem $ENV{TAVRIK_SDK}/include -iframework $ENV{TAVRIK_SDK}/Frameworks -isystem $ENV{TAVRIK_STAND_INS}/include)
 endforeach()
 
-# The other libraries are those of this machine: their headers say the same on a Mac, and the link is held against the names that they export.
+# The other libraries are those of this machine: their headers say the same on a Mac, and the link is held
+# against the names that they export.
 set(CMAKE_PREFIX_PATH /usr)
 set(CMAKE_LIBRARY_ARCHITECTURE $ENV{TAVRIK_MULTIARCH})
 set(CMAKE_FIND_LIBRARY_SUFFIXES .tbd .so .a)
