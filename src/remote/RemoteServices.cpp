@@ -96,7 +96,7 @@ void RemoteServices::fetchDue() {
 }
 
 void RemoteServices::checkForUpdates() {
-    m_updates = UpdateStatus();
+    clearUpdates();
     m_updates.isAsked = true;
     m_updates.stage = UpdateStatus::Stage::checking;
     if (m_choice.isOffForGood)
@@ -104,6 +104,15 @@ void RemoteServices::checkForUpdates() {
     else if (m_isReady)
         fetchUpdates();
     changed();
+}
+
+/// Back to the beginning, but for who asked.
+void RemoteServices::clearUpdates() {
+    m_updates.stage = UpdateStatus::Stage::unknown;
+    m_updates.isOffered = false;
+    m_updates.finding.verdict = UpdateVerdict::newest;
+    m_updates.finding.release.reset();
+    m_updates.failure.reset();
 }
 
 void RemoteServices::failUpdates(RemoteFailure failure) {
@@ -174,8 +183,7 @@ void RemoteServices::showTexts() {
 /// known stays.
 void RemoteServices::showUpdates() {
     const bool isAsked = m_updates.isAsked;
-    m_updates = UpdateStatus();
-    m_updates.isAsked = isAsked;
+    clearUpdates();
     const TrustedAnswer* const answer = m_updateService.answer();
     const auto current = programVersion(m_options.version);
     const auto& failure = m_updateService.failure();

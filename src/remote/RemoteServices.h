@@ -131,6 +131,7 @@ private:
     void apply(const NetworkChoice& choice, std::function<bool(NetworkConsent&)> save);
     void showTexts();
     void showUpdates();
+    void clearUpdates();
     void failUpdates(RemoteFailure failure);
     void changed();
 
