@@ -4,6 +4,7 @@
 
 #include <QDesktopServices>
 #include <QJsonArray>
+#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -97,9 +98,11 @@ TEST_F(UpdatesTest, AsksOnceAtTheSecondStartAndSendsNothingBefore) {
     const int before = openSockets();
     startWhole();
     ASSERT_TRUE(isShown("welcome-start"));
+    startWhole();
+    ASSERT_TRUE(isShown("welcome-start"));
     press(window(), Qt::Key_Return);
     settled(window());
-    EXPECT_EQ(find(QStringLiteral("consent-no")), nullptr) << "not at the first start";
+    EXPECT_EQ(find(QStringLiteral("consent-no")), nullptr) << "not in one breath with the welcome";
 
     using Place = WindowModel::Place;
     for (const Place place : {Place::SystemApps, Place::Themes, Place::Fonts, Place::UserApps})
@@ -140,6 +143,26 @@ TEST_F(UpdatesTest, AsksOnceAtTheSecondStartAndSendsNothingBefore) {
     EXPECT_TRUE(isShown("update-available")) << "out of what is kept";
     EXPECT_EQ(find(QStringLiteral("consent-yes")), nullptr);
     EXPECT_EQ(server.requests(), 4) << "not again on the same day";
+}
+
+TEST_F(UpdatesTest, WaitsForTheQuestionsOfTheStart) {
+    isNetworkAsked = false;
+    startWhole();
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    program.reset();
+    bool wasAsked = false;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, &person, [&] {
+        if (!alerts.isShown())
+            return;
+        wasAsked = true;
+        EXPECT_EQ(find(QStringLiteral("consent-no")), nullptr);
+        alerts.answer(0);
+    });
+    person.start(300);
+    startWhole();
+    EXPECT_TRUE(wasAsked) << "whether to recover what was staged";
+    EXPECT_TRUE(isShown("consent-no"));
 }
 
 TEST_F(UpdatesTest, TakesEveryNoForGood) {

@@ -69,7 +69,7 @@ Rectangle {
         anchors.margins: 10
         anchors.bottomMargin: 0
         visible: sidebar.model.updates.offer.newVersion
-        text: qsTr("Tavrik %1 is available").arg(sidebar.model.updates.offer.newVersion)
+        text: qsTr("New: Tavrik %1").arg(sidebar.model.updates.offer.newVersion)
         glyph: "download"
         glyphColor: Style.accent
         Accessible.role: Accessible.Button

@@ -15,6 +15,7 @@ Column {
 
     CheckRow {
         objectName: row.name
+        anchors.left: parent.left
         width: Math.min(implicitWidth, row.width)
         text: row.text
         checked: row.isOn

@@ -110,6 +110,7 @@ Item {
                 text: qsTr("A request for one file from %1: the file\u2019s name, the hour, which answer is kept already, and a signature that is the same for every copy of Tavrik. No name, no number of this Mac, nothing about your apps, not even the version that you use. The server sees your internet address, as with every page that you open. Nothing is installed by itself.").arg(view.page.addresses)
             }
             Row {
+                anchors.left: parent.left
                 spacing: Style.gap
 
                 PushButton {
