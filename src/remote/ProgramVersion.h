@@ -13,7 +13,14 @@ namespace tavrik {
 struct ProgramVersion {
     std::array<std::uint32_t, 4> numbers{};
 
-    auto operator<=>(const ProgramVersion&) const = default;
+    bool operator==(const ProgramVersion&) const = default;
+
+    /// By hand, since not every standard library orders arrays in one step.
+    std::strong_ordering operator<=>(const ProgramVersion& other) const {
+        return numbers < other.numbers   ? std::strong_ordering::less
+               : numbers > other.numbers ? std::strong_ordering::greater
+                                         : std::strong_ordering::equal;
+    }
 };
 
 /// Nothing for any other text: signs, blanks, letters, empty parts, more than six digits.
