@@ -82,7 +82,6 @@ Program::Program(MacHost& host, WindowAlerts& alerts, RemoteServices::Options re
     m_engine.addImageProvider(QStringLiteral("glyph"), new GlyphProvider);
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QCoreApplication::instance()->installEventFilter(this);
-    QCoreApplication::installTranslator(&m_plurals);
     QObject::connect(&m_model, &WindowModel::quitAsked, this, &Program::quit);
     m_engine.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
 }

@@ -7,7 +7,6 @@
 #include "model/SupportFolderLock.h"
 #include "platform/Result.h"
 #include "remote/RemoteServices.h"
-#include "ui/EnglishPlurals.h"
 #include "ui/models/Background.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Images.h"
@@ -72,7 +71,6 @@ private:
     Managers m_managers;
     SharedCoordinators m_coordinators;
     AppDelegate m_delegate;
-    EnglishPlurals m_plurals;
     Images m_images;
     Notices m_notices;
     EndNotice m_endNotice;

@@ -4,6 +4,7 @@
 #include "platform/Threads.h"
 #include "ui/AlertWindow.h"
 #include "ui/InterfaceFont.h"
+#include "ui/Language.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the components bring their own looks
 
     useInterfaceFont();
+    const Language language;
 
     WindowAlerts alerts;
     const auto host = openHost(alerts);

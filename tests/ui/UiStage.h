@@ -6,6 +6,7 @@
 #include "platform/UserDefaults.h"
 #include "support/LogRecorder.h"
 #include "support/practice/VirtualMac.h"
+#include "ui/Language.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 #include "ui/screens/SampleServer.h"
@@ -99,6 +100,7 @@ private:
         QGuiApplication::setApplicationVersion(QStringLiteral("1.2.0"));
         QQuickStyle::setStyle(QStringLiteral("Basic"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
+        static const Language english{QLocale(QLocale::English)};
     }
 
     QtMessageHandler m_before = nullptr;

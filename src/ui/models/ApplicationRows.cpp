@@ -3,6 +3,7 @@
 #include "app/Managers.h"
 #include "app/SharedCoordinators.h"
 #include "fonts/FontReplacer.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
 #include <algorithm>
@@ -36,6 +37,8 @@ QVariant ApplicationRows::data(const QModelIndex& index, int role) const {
         return captionAt(index);
     case isStaged:
         return isStagedAt(index);
+    case ApplicationsModel::refusal:
+        return inTheirLanguage(QIdentityProxyModel::data(index, role).toString().toStdString());
     default:
         return QIdentityProxyModel::data(index, role);
     }

@@ -3,6 +3,7 @@
 #include "app/Managers.h"
 #include "app/SharedCoordinators.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/HandedFile.h"
 #include "ui/models/Notices.h"
 #include "ui/models/Text.h"
@@ -57,7 +58,7 @@ int ApplicationsList::total() const {
 
 void ApplicationsList::select(const QString& bundleID, int place) {
     if (const Status done = m_coordinator.selectIcon(bundleID.toStdString(), place); !done)
-        m_with.notices.refuse(toQString(done.error().description));
+        m_with.notices.refuse(inTheirLanguage(done.error().description));
 }
 
 void ApplicationsList::remove(const QString& bundleID, int place) {
@@ -75,7 +76,7 @@ void ApplicationsList::remove(const QString& bundleID, int place) {
         done = m_coordinator.hideThemeIcon(identifier, icon.parent().parent().name(), icon.stem() + ".png");
     }
     if (!done)
-        m_with.notices.refuse(toQString(done.error().description));
+        m_with.notices.refuse(inTheirLanguage(done.error().description));
 }
 
 void ApplicationsList::addFiles(const QString& bundleID, const QList<QUrl>& files) {
@@ -126,7 +127,7 @@ void ApplicationsList::add(const std::shared_ptr<Adding>& adding, Result<Bytes> 
 
 void ApplicationsList::noteOutcome(Adding& adding, const Status& outcome) {
     if (!outcome)
-        adding.refusals.push_back(toQString(outcome.error().description));
+        adding.refusals.push_back(inTheirLanguage(outcome.error().description));
     if (--adding.open > 0)
         return;
     if (adding.refusals.size() == 1)

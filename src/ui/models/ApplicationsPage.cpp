@@ -2,6 +2,7 @@
 
 #include "app/Managers.h"
 #include "app/SharedCoordinators.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
 namespace tavrik {
@@ -25,7 +26,7 @@ QStringList ApplicationsPage::filterOptions() const {
     QStringList labels;
     for (const FilterOption option :
          {FilterOption::allItems, FilterOption::themedItems, FilterOption::unthemedItems})
-        labels.append(toQString(labelOf(option)));
+        labels.append(inTheirLanguage(labelOf(option)));
     return labels;
 }
 

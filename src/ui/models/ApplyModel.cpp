@@ -8,6 +8,7 @@
 #include "platform/Mac.h"
 #include "platform/Workspace.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Notices.h"
 #include "ui/models/Text.h"
@@ -87,10 +88,10 @@ QVariantList detailsOf(const std::vector<StoreChange>& changes, const std::map<s
         QStringList lines;
         for (auto change = first; change != end; ++change) {
             const auto name = names.find(change->subject);
-            lines.append(toQString(
+            lines.append(inTheirLanguage(
                 inWords(*change, name == names.end() ? change->subject : name->second.toStdString())));
         }
-        groups.append(QVariantMap{{QStringLiteral("title"), toQString(headingOf(first->kind))},
+        groups.append(QVariantMap{{QStringLiteral("title"), inTheirLanguage(headingOf(first->kind))},
                                   {QStringLiteral("lines"), lines}});
         first = end;
     }
@@ -119,7 +120,7 @@ ApplyModel::ApplyModel(const UiServices& with) : m_with(with) {
 }
 
 QString ApplyModel::status() const {
-    return toQString(m_with.managers.progress.currentStatus());
+    return inTheirLanguage(m_with.managers.progress.currentStatus());
 }
 
 double ApplyModel::value() const {
@@ -159,7 +160,7 @@ void ApplyModel::show(const Planned& planned) {
     m_details = detailsOf(planned.preview.plan.changes, planned.names);
     m_plannedApps = static_cast<int>(planned.preview.plan.created.size() + planned.preview.plan.updated.size() +
                                      planned.preview.plan.removed.size());
-    m_obstacles = toQStrings(planned.preview.obstacles);
+    m_obstacles = inTheirLanguage(planned.preview.obstacles);
     m_runningApps.clear();
     m_runningIDs.clear();
     for (const ApplicationInfo& app : planned.preview.runningApps) {
@@ -195,11 +196,11 @@ void ApplyModel::finish(const ApplyResult& result) {
     m_isApplying = false;
     m_isClean = result.end == ApplyResult::End::applied && result.failedApps.empty() &&
                 result.deviations.empty() && result.isAudited;
-    m_remarks = toQStrings(result.reasons);
+    m_remarks = inTheirLanguage(result.reasons);
     for (const auto& app : result.failedApps)
-        m_remarks.append(tr("%1: %2").arg(toQString(app.name), toQString(app.reason)));
+        m_remarks.append(tr("%1: %2").arg(toQString(app.name), inTheirLanguage(app.reason)));
     for (const Deviation& deviation : result.deviations)
-        m_remarks.append(tr("Not as planned: %1").arg(toQString(deviation.sentence)));
+        m_remarks.append(tr("Not as planned: %1").arg(inTheirLanguage(deviation.sentence)));
     if (result.end == ApplyResult::End::applied && !result.isAudited)
         m_remarks.append(
             tr("Launchpad and the Dock could not be read back, so nobody has looked whether they show it."));

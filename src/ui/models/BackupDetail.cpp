@@ -2,6 +2,7 @@
 
 #include "app/Managers.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/DifferenceWords.h"
 #include "ui/models/Text.h"
 
@@ -56,11 +57,11 @@ BackupDetail::Reading BackupDetail::read(Managers& managers, const MacPath& back
 }
 
 void BackupDetail::take(const Reading& reading) {
-    m_problem = toQString(reading.problem);
+    m_problem = inTheirLanguage(reading.problem);
     m_drawing = reading.drawing;
     m_sinceLines = wordedDifferences(reading.since);
     if (!reading.sinceProblem.empty())
-        m_since = tr("What has changed since cannot be told. %1").arg(toQString(reading.sinceProblem));
+        m_since = tr("What has changed since cannot be told. %1").arg(inTheirLanguage(reading.sinceProblem));
     else if (reading.since.empty())
         m_since = tr("Nothing has moved since.");
     else

@@ -6,6 +6,7 @@
 #include "platform/Mac.h"
 #include "ui/models/Amounts.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Text.h"
 
@@ -100,7 +101,7 @@ void BackupsPage::refresh() {
 void BackupsPage::take(const Result<Items>& items, int keepCount) {
     m_isLoaded = true;
     m_keepCount = keepCount;
-    m_problem = items ? QString() : toQString(items.error().description);
+    m_problem = items ? QString() : inTheirLanguage(items.error().description);
     m_items = items ? inOrderOfTheList(*items) : Items();
     std::vector<BackupsModel::Row> rows;
     for (const BackupListItem& item : m_items)
@@ -156,7 +157,7 @@ void BackupsPage::backUpNow() {
         [&managers = m_with.managers] { return managers.backups.createBackup(); },
         [this](const Result<MacPath>& backup) {
             if (!backup)
-                return m_work.fail(toQString(backup.error().description));
+                return m_work.fail(inTheirLanguage(backup.error().description));
             m_current = backup->stem();
             m_work.tell(tr("The backup is taken, and was read back."));
             refresh();
@@ -178,7 +179,7 @@ void BackupsPage::verify() {
             if (fault.empty())
                 m_work.tell(tr("This backup is whole and can be restored."));
             else
-                m_work.fail(toQString(fault));
+                m_work.fail(inTheirLanguage(fault));
         });
 }
 
@@ -194,7 +195,7 @@ void BackupsPage::restore() {
         [this](const Result<std::string>& before) {
             refresh();
             if (!before)
-                m_work.fail(toQString(before.error().description));
+                m_work.fail(inTheirLanguage(before.error().description));
             else if (before->empty())
                 m_work.tell(tr("Launchpad and the Dock are as in this backup. What was there before could not "
                                "be backed up: its files were missing or damaged."));

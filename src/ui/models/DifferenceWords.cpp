@@ -1,5 +1,6 @@
 #include "ui/models/DifferenceWords.h"
 
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
 #include <QCoreApplication>
@@ -24,11 +25,11 @@ QString countedDifferences(const LayoutDifferences& since) {
         if (count > 0)
             parts.append(counted(text, count));
     };
-    add(QT_TRANSLATE_NOOP("Differences", "%n app(s) moved"), since.moved.size());
-    add(QT_TRANSLATE_NOOP("Differences", "%n new in Launchpad"), since.onlyAfter.size());
-    add(QT_TRANSLATE_NOOP("Differences", "%n gone from Launchpad"), since.onlyBefore.size());
-    add(QT_TRANSLATE_NOOP("Differences", "%n new in the Dock"), since.tilesOnlyAfter.size());
-    add(QT_TRANSLATE_NOOP("Differences", "%n gone from the Dock"), since.tilesOnlyBefore.size());
+    add(QT_TRANSLATE_N_NOOP("Differences", "%n app(s) moved"), since.moved.size());
+    add(QT_TRANSLATE_N_NOOP("Differences", "%n new in Launchpad"), since.onlyAfter.size());
+    add(QT_TRANSLATE_N_NOOP("Differences", "%n gone from Launchpad"), since.onlyBefore.size());
+    add(QT_TRANSLATE_N_NOOP("Differences", "%n new in the Dock"), since.tilesOnlyAfter.size());
+    add(QT_TRANSLATE_N_NOOP("Differences", "%n gone from the Dock"), since.tilesOnlyBefore.size());
     if (since.isDockReordered)
         parts.append(translated(QT_TRANSLATE_NOOP("Differences", "the Dock in another order")));
     return parts.join(QStringLiteral(", "));
@@ -44,7 +45,7 @@ QStringList wordedDifferences(const LayoutDifferences& since) {
     add(QT_TRANSLATE_NOOP("Differences", "Gone from Launchpad: %1."), since.onlyBefore);
     for (const auto& [name, from, to] : since.moved)
         lines.append(translated(QT_TRANSLATE_NOOP("Differences", "%1 moved from %2 to %3."))
-                         .arg(toQString(name), toQString(from), toQString(to)));
+                         .arg(toQString(name), inTheirLanguage(from), inTheirLanguage(to)));
     add(QT_TRANSLATE_NOOP("Differences", "New in the Dock: %1."), since.tilesOnlyAfter);
     add(QT_TRANSLATE_NOOP("Differences", "Gone from the Dock: %1."), since.tilesOnlyBefore);
     if (since.isDockReordered)

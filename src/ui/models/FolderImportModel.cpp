@@ -3,6 +3,7 @@
 #include "app/Managers.h"
 #include "themes/HostPictures.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 #include "ui/models/ThemeWork.h"
 
@@ -129,7 +130,7 @@ void FolderImportModel::begin(const QUrl& folder) {
                 show(std::move(*reviewed));
                 return;
             }
-            m_work.refuse(toQString(reviewed.error().description));
+            m_work.refuse(inTheirLanguage(reviewed.error().description));
             setPhase(Closed);
         });
 }
@@ -175,7 +176,7 @@ void FolderImportModel::show(Reviewed reviewed) {
 
 void FolderImportModel::checkName() {
     const Status free = m_with.managers.themes.checkNewName(m_themeName.toStdString());
-    m_problem = free ? QString() : toQString(free.error().description);
+    m_problem = free ? QString() : inTheirLanguage(free.error().description);
     Q_EMIT changed();
 }
 
@@ -209,11 +210,11 @@ void FolderImportModel::take() {
         [this](const Result<FolderImportReport>& report) {
             if (!report) {
                 m_work.end({});
-                m_problem = toQString(report.error().description);
+                m_problem = inTheirLanguage(report.error().description);
                 setPhase(Review);
                 return;
             }
-            const QStringList failed = toQStrings(report->failed);
+            const QStringList failed = inTheirLanguage(report->failed);
             setPhase(Closed);
             if (!report->theme) {
                 m_work.fail(tr("None of the pictures can be used, so no theme was made."), failed);

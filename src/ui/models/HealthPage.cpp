@@ -5,6 +5,7 @@
 #include "app/SharedCoordinators.h"
 #include "maintenance/HealthCheck.h"
 #include "maintenance/HealthRepair.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Images.h"
 #include "ui/models/Text.h"
@@ -31,9 +32,9 @@ Condition conditionOf(Remedy remedy) {
 }
 
 FindingsModel::Row rowOf(const HealthFinding& finding) {
-    return {.group = toQString(headingOf(finding)),
-            .sentence = toQString(finding.sentence),
-            .advice = toQString(finding.advice),
+    return {.group = inTheirLanguage(headingOf(finding)),
+            .sentence = inTheirLanguage(finding.sentence),
+            .advice = inTheirLanguage(finding.advice),
             .condition = conditionOf(finding.remedy)};
 }
 
@@ -110,7 +111,7 @@ void HealthPage::showMended(const HealthRepair& repair) {
             continue;
         }
         rows.back().condition = outcome->isMended ? Condition::Mended : Condition::NotMended;
-        rows.back().advice = toQString(outcome->sentence);
+        rows.back().advice = inTheirLanguage(outcome->sentence);
         isAllMended = isAllMended && outcome->isMended;
     }
     m_isGood = isAllMended && isAllRight;

@@ -1,10 +1,9 @@
 #include "ui/models/InterfaceWords.h"
 
 #include "remote/RemoteServices.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 #include "ui/models/WebPage.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -13,7 +12,7 @@ namespace tavrik {
 QString InterfaceWords::text(InterfaceText text) const {
     const auto entry = std::ranges::find(replaceableTexts(), text, &ReplaceableText::text);
     const std::string builtIn(entry->builtIn);
-    const QString words = QCoreApplication::translate("InterfaceTexts", builtIn.c_str());
+    const QString words = inTheirLanguage(builtIn);
     return words == toQString(builtIn) ? toQString(m_with.remote.texts().text(text)) : words;
 }
 

@@ -4,6 +4,7 @@
 #include "app/MacHost.h"
 #include "app/Managers.h"
 #include "ui/models/Amounts.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Text.h"
 
@@ -22,16 +23,16 @@ QVariantMap counted(std::size_t count, const char* text) {
 
 QVariantList figuresOf(const Traces& traces) {
     QVariantList figures{
-        counted(traces.restyled.size(), QT_TRANSLATE_NOOP("tavrik::LeavingPage", "restyled app(s)")),
-        counted(traces.bundles.size(), QT_TRANSLATE_NOOP("tavrik::LeavingPage", "stand-in(s) on the disk")),
-        counted(traces.wrapperTiles.size(), QT_TRANSLATE_NOOP("tavrik::LeavingPage", "tile(s) of the Dock"))};
+        counted(traces.restyled.size(), QT_TRANSLATE_N_NOOP("tavrik::LeavingPage", "restyled app(s)")),
+        counted(traces.bundles.size(), QT_TRANSLATE_N_NOOP("tavrik::LeavingPage", "stand-in(s) on the disk")),
+        counted(traces.wrapperTiles.size(), QT_TRANSLATE_N_NOOP("tavrik::LeavingPage", "tile(s) of the Dock"))};
     if (traces.style)
         figures.append(fact(toQString(*traces.style), LeavingPage::tr("the style of all names")));
     else if (traces.hasStyle())
         figures.append(counted(traces.styledTitles.size() + traces.styledFolders.size(),
-                               QT_TRANSLATE_NOOP("tavrik::LeavingPage", "name(s) in styled letters")));
+                               QT_TRANSLATE_N_NOOP("tavrik::LeavingPage", "name(s) in styled letters")));
     if (const std::size_t half = traces.unfinished.size() + (traces.isStyleUnfinished ? 1 : 0); half > 0)
-        figures.append(counted(half, QT_TRANSLATE_NOOP("tavrik::LeavingPage", "change(s) stopped half-way")));
+        figures.append(counted(half, QT_TRANSLATE_N_NOOP("tavrik::LeavingPage", "change(s) stopped half-way")));
     return figures;
 }
 
@@ -60,12 +61,12 @@ void LeavingPage::take(const Found& found) {
     m_belongings = factsOf(found.belongings);
     m_size = sizeText(found.belongings.bytes);
     if (!found.traces) {
-        m_work.fail(toQString(found.traces.error().description));
+        m_work.fail(inTheirLanguage(found.traces.error().description));
         return setStage(Stage::Unknown);
     }
     m_figures = figuresOf(*found.traces);
     const bool wasTakenBack = m_stage == Stage::TakenBack || m_stage == Stage::Unfinished;
-    m_traces = toQStrings(found.traces->inWords());
+    m_traces = inTheirLanguage(found.traces->inWords());
     if (m_traces.isEmpty())
         return setStage(wasTakenBack ? Stage::TakenBack : Stage::Nothing);
     if (m_stage == Stage::Unfinished)
@@ -86,14 +87,14 @@ void LeavingPage::takeBack() {
 
 void LeavingPage::finish(const Result<RemoveEverything::Outcome>& outcome) {
     if (!outcome) {
-        m_work.fail(tr("Nothing was changed. %1").arg(toQString(outcome.error().description)));
+        m_work.fail(tr("Nothing was changed. %1").arg(inTheirLanguage(outcome.error().description)));
         return m_with.endNotice.tell(tr("Nothing is taken back"), m_work.remark());
     }
-    m_done = toQStrings(outcome->done);
+    m_done = inTheirLanguage(outcome->done);
     if (!outcome->backup.empty())
         m_done.append(
             tr("What was there before, but for restyled apps and styled names, is the newest backup now."));
-    m_traces = toQStrings(outcome->traces);
+    m_traces = inTheirLanguage(outcome->traces);
     setStage(m_traces.isEmpty() ? Stage::TakenBack : Stage::Unfinished);
     m_with.endNotice.tell(
         m_traces.isEmpty() ? tr("Everything is taken back") : tr("Not everything is taken back"),
@@ -111,7 +112,7 @@ void LeavingPage::deleteAll() {
         },
         [this](const Status& removed) {
             if (!removed) {
-                m_work.fail(toQString(removed.error().description));
+                m_work.fail(inTheirLanguage(removed.error().description));
                 return;
             }
             m_with.delegate.discardChanges();

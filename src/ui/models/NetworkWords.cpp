@@ -1,5 +1,6 @@
 #include "ui/models/NetworkWords.h"
 
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
 #include <QCoreApplication>
@@ -18,7 +19,7 @@ QString translated(const char* text) {
 } // namespace
 
 QString networkSentence(RemoteFailure failure) {
-    return QCoreApplication::translate("RemoteProblem", sentenceOf(failure).c_str());
+    return inTheirLanguage(sentenceOf(failure));
 }
 
 QString systemText(const SystemVersion& version) {

@@ -2,6 +2,7 @@
 
 #include "app/Managers.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Images.h"
 #include "ui/models/Notices.h"
 #include "ui/models/Text.h"
@@ -133,7 +134,7 @@ void OneTheme::toggle(const QString& bundleID) {
     const bool isHidden = row.state == ThemeIconState::hidden;
     const bool isApplied = isHidden && !row.isToBeHidden;
     if (row.state == ThemeIconState::notRestylable) {
-        m_with.notices.refuse(toQString(row.refusal));
+        m_with.notices.refuse(inTheirLanguage(row.refusal));
         return;
     }
     stageForIcon(bundleID,
@@ -175,7 +176,7 @@ void OneTheme::rename(const QString& name) {
             return themes.updateTheme(theme, name);
         },
         [this](const Status& renamed) {
-            m_nameProblem = renamed ? QString() : toQString(renamed.error().description);
+            m_nameProblem = renamed ? QString() : inTheirLanguage(renamed.error().description);
             Q_EMIT changed();
         });
 }
@@ -199,7 +200,7 @@ void OneTheme::renameIcon(const QString& bundleID, const QString& newBundleID) {
          wanted = wanted.toStdString()] { return library.renameIcon(themeID, file, wanted); },
         [this](const Status& renamed) {
             if (!renamed)
-                m_with.notices.refuse(toQString(renamed.error().description));
+                m_with.notices.refuse(inTheirLanguage(renamed.error().description));
             m_with.images.raiseRevision();
             m_shelf.reload();
         });

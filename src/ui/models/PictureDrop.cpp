@@ -3,6 +3,7 @@
 #include "icons/ImageIntake.h"
 #include "platform/MainQueue.h"
 #include "system/IconManager.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/HandedFile.h"
 #include "ui/models/Text.h"
 
@@ -71,8 +72,8 @@ void PictureDrop::add(Look& look, const Result<Bytes>& content, const QString& n
             look.picture =
                 squared->scaled(kShownSide, kShownSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     } else if (look.refusal.isEmpty()) {
-        look.refusal =
-            picture ? tr("“%1” cannot be made an icon.").arg(name) : toQString(picture.error().description);
+        look.refusal = picture ? tr("“%1” cannot be made an icon.").arg(name)
+                               : inTheirLanguage(picture.error().description);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "app/Managers.h"
 #include "icons/ImageIntake.h"
 #include "themes/IconMatcher.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/HandedFile.h"
 #include "ui/models/Text.h"
 
@@ -69,7 +70,7 @@ DropAnswer takePictures(const PicturesForTheme& dropped, const std::vector<Appli
         if (added)
             ++answer.added;
         else
-            answer.refused.append(toQString(added.error().description));
+            answer.refused.append(inTheirLanguage(added.error().description));
     }
     return answer;
 }

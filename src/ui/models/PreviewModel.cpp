@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/Managers.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Images.h"
 #include "ui/models/Text.h"
 
@@ -87,7 +88,7 @@ void PreviewModel::read() {
         [this](Result<PreviewScene> scene) {
             m_isReading = false;
             m_isLoaded = true;
-            m_error = scene ? QString() : toQString(scene.error().description);
+            m_error = scene ? QString() : inTheirLanguage(scene.error().description);
             if (scene)
                 m_scene = std::move(*scene);
             show();

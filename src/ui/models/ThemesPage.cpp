@@ -4,6 +4,7 @@
 #include "platform/Mac.h"
 #include "themes/ThemeError.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Images.h"
 #include "ui/models/Text.h"
 
@@ -50,7 +51,7 @@ QString ThemesPage::nameProblem(const QString& name) const {
     if (name.isEmpty())
         return {};
     const Status free = m_with.managers.themes.checkNewName(name.toStdString());
-    return free ? QString() : toQString(free.error().description);
+    return free ? QString() : inTheirLanguage(free.error().description);
 }
 
 void ThemesPage::create(const QString& name, bool moveActiveIcons) {
@@ -71,7 +72,7 @@ void ThemesPage::create(const QString& name, bool moveActiveIcons) {
                 m_shelf.reload(); // it has got its icons by now
                 return;
             }
-            m_createProblem = toQString(created.error().description);
+            m_createProblem = inTheirLanguage(created.error().description);
             Q_EMIT changed();
         });
 }
@@ -90,7 +91,7 @@ void ThemesPage::apply(const QString& themeID) {
             if (!leftAlone.empty())
                 details.append(
                     tr("Left alone, since they cannot be restyled: %1.").arg(leftAlone.join(tr(", "))));
-            details.append(toQStrings(answer.failed));
+            details.append(inTheirLanguage(answer.failed));
             if (answer.applied == 0)
                 m_work.fail(tr("“%1” has no icon to apply for any app.").arg(name), details);
             else

@@ -5,6 +5,7 @@
 #include "themes/ThemeExchange.h"
 #include "themes/ThemeFile.h"
 #include "ui/models/Background.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 #include "ui/models/ThemesPage.h"
 
@@ -37,7 +38,7 @@ Taken takeThemes(const std::vector<HostPath>& files, Managers& managers) {
         if (theme)
             taken.themes.push_back(std::move(*theme));
         else
-            taken.refused.append(toQString(theme.error().description));
+            taken.refused.append(inTheirLanguage(theme.error().description));
     }
     return taken;
 }
@@ -85,7 +86,7 @@ void ThemesPage::exportTheme(const QString& themeID, const QUrl& file) {
             if (written)
                 m_work.end(tr("“%1” is saved as “%2”.").arg(name, target));
             else
-                m_work.fail(toQString(written.error().description));
+                m_work.fail(inTheirLanguage(written.error().description));
         });
 }
 

@@ -1,6 +1,7 @@
 #include "ui/models/WindowAlerts.h"
 
 #include "platform/MainQueue.h"
+#include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
 #include <QCoreApplication>
@@ -63,15 +64,15 @@ void WindowAlerts::answerAll() {
 }
 
 QString WindowAlerts::title() const {
-    return isShown() ? toQString(m_questions.back().alert.title) : QString();
+    return isShown() ? inTheirLanguage(m_questions.back().alert.title) : QString();
 }
 
 QString WindowAlerts::text() const {
-    return isShown() ? toQString(m_questions.back().alert.text) : QString();
+    return isShown() ? inTheirLanguage(m_questions.back().alert.text) : QString();
 }
 
 QStringList WindowAlerts::buttons() const {
-    return isShown() ? toQStrings(m_questions.back().alert.buttons) : QStringList();
+    return isShown() ? inTheirLanguage(m_questions.back().alert.buttons) : QStringList();
 }
 
 bool WindowAlerts::isWarning() const {

@@ -2,6 +2,7 @@
 #include "platform/Mac.h"
 #include "platform/Threads.h"
 #include "ui/InterfaceFont.h"
+#include "ui/Language.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 #include "ui/screens/PseudoLocale.h"
@@ -75,14 +76,19 @@ int main(int argc, char** argv) {
                                   QStringLiteral("beginning"));
     const QCommandLineOption format(QStringLiteral("format"), QStringLiteral("png or jpg."),
                                     QStringLiteral("format"), QStringLiteral("png"));
+    const QCommandLineOption inLanguage(QStringLiteral("language"), QStringLiteral("In this one, as \"de\"."),
+                                        QStringLiteral("code"), QStringLiteral("en"));
     const QCommandLineOption pseudo(QStringLiteral("pseudo"), QStringLiteral("With texts that are longer."));
     const QCommandLineOption mirrored(QStringLiteral("mirrored"), QStringLiteral("From right to left."));
-    arguments.addOptions({only, format, pseudo, mirrored});
+    arguments.addOptions({only, format, inLanguage, pseudo, mirrored});
     arguments.process(application);
     if (arguments.positionalArguments().size() != 1)
         arguments.showHelp(2);
     const QString folder = arguments.positionalArguments().front();
     QDir().mkpath(folder);
+    const QLocale locale(arguments.value(inLanguage));
+    QLocale::setDefault(locale);
+    const Language language(locale);
     PseudoLocale pseudoLocale;
     if (arguments.isSet(pseudo))
         QCoreApplication::installTranslator(&pseudoLocale);

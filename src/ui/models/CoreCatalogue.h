@@ -1,0 +1,17 @@
+#pragma once
+
+#include <span>
+
+namespace tavrik {
+
+/// What the parts below the window say to a person, in English, with %1, %2 ... for what differs: names, paths,
+/// numbers, reasons. The program's other face and the logs say it as it stands; the window looks it up here,
+/// and in the catalogue of its language (context "Core"). `tools/sentences` tells what is missing.
+
+/// Sentences, and parts of sentences; also found within others.
+std::span<const char* const> coreSentences();
+
+/// Headings, states, and what questions say: found only when they are all that is said.
+std::span<const char* const> coreLabels();
+
+} // namespace tavrik
