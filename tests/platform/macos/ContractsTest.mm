@@ -5,6 +5,7 @@
 #include "support/contracts/MacContract.h"
 
 #import <Foundation/Foundation.h>
+#include <unistd.h>
 
 namespace tavrik::test {
 
@@ -67,7 +68,8 @@ public:
 private:
     NobodyAnswers m_nobody;
     macos::MacosMac m_own{m_nobody};
-    macos::MacosDefaults m_defaults{"com.tavrik.contract", m_own.mac().volume.home()};
+    macos::MacosDefaults m_defaults{"com.tavrik.contract." + std::to_string(::getpid()),
+                                    m_own.mac().volume.home()};
     Mac m_mac{.volume = m_own.mac().volume,
               .files = m_own.mac().files,
               .bookmarks = m_own.mac().bookmarks,
