@@ -20,8 +20,7 @@ using SeenSerials = std::map<std::string, std::uint64_t, std::less<>>;
 
 /// What is kept of one service between two starts.
 struct CachedAnswer {
-    Bytes
-        bytes; ///< whole, signature included: it is verified again before it is used; empty when there is none
+    Bytes bytes;         ///< whole, with its signature, since it is verified again; empty when there is none
     std::string etag;    ///< what the server calls this answer
     std::string address; ///< of the server that does
     FetchHistory history;
