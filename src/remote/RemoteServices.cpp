@@ -229,6 +229,18 @@ void RemoteServices::dismissUpdate() {
     changed();
 }
 
+void RemoteServices::fallSilent() {
+    m_choice.isAsked = true;
+    m_choice.wantsTexts = false;
+    m_choice.wantsUpdates = false;
+    m_textService.abort();
+    m_updateService.abort();
+    if (m_updates.stage == UpdateStatus::Stage::checking)
+        m_updates = {};
+    showTexts();
+    changed();
+}
+
 void RemoteServices::changed() {
     if (m_changed)
         m_changed();

@@ -116,6 +116,10 @@ public:
     /// offered again before the next start, unless they ask.
     void dismissUpdate();
 
+    /// Ends what is under way, and sends nothing unasked until the next start: what is kept is about to be
+    /// deleted, and nothing is to be written behind that. Saves nothing itself.
+    void fallSilent();
+
 private:
     /// Runs `work` on the queue and hands its answer to `then` on the main thread, unless this is gone by then.
     template<typename Work, typename Then>

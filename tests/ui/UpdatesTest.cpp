@@ -262,6 +262,30 @@ TEST_F(UpdatesTest, StaysOffTheNetworkForGoodWhenToldSo) {
     EXPECT_FALSE(model().updates()->checksForUpdates()) << "a check of one's own allows no others";
 }
 
+TEST_F(UpdatesTest, WritesNothingBehindTheDeletionOfWhatIsKept) {
+    const int before = openSockets();
+    startWhole();
+    LeavingPage& leaving = *model().leaving();
+    leaving.refresh();
+    ASSERT_TRUE(waitFor([&] { return leaving.stage() != LeavingPage::Stage::Unknown; }));
+    leaving.takeBack();
+    ASSERT_TRUE(waitFor([&] {
+        return leaving.stage() == LeavingPage::Stage::TakenBack && !leaving.work()->isBusy() &&
+               !model().isBlocked();
+    }));
+    server.keepSilent(true);
+    model().updates()->setChecksForUpdates(true);
+    ASSERT_TRUE(waitFor([&] { return server.requests() == 1; }));
+    leaving.deleteAll();
+    EXPECT_TRUE(waitFor([&] { return openSockets() == before; }));
+    ASSERT_TRUE(waitFor([&] { return !leaving.work()->isBusy() && !model().isBlocked(); }));
+    settled(window());
+    EXPECT_EQ(server.requests(), 1) << "the window is free again, and asks nothing";
+    program.reset();
+    for (const char* const key : {"UpdateCheckEnabled", "UpdateFeedCacheDate", "NetworkAsked"})
+        EXPECT_FALSE(mac.defaults.value(key)) << key;
+}
+
 TEST_F(UpdatesTest, ReplacesTextsAndLinksThatMayBeReplacedAndNoOthers) {
     startWhole();
     const auto summary = [&] { return model().words()->aboutSummary(); };

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/MacHost.h"
 #include "app/Managers.h"
+#include "remote/RemoteServices.h"
 #include "ui/models/Amounts.h"
 #include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
@@ -105,6 +106,7 @@ void LeavingPage::finish(const Result<RemoveEverything::Outcome>& outcome) {
 void LeavingPage::deleteAll() {
     if (m_stage != Stage::Nothing && m_stage != Stage::TakenBack)
         return;
+    m_with.remote.fallSilent();
     m_work.run(
         tr("Deleting what Tavrik keeps…"), PageWork::Beside::nothing,
         [&services = m_with.managers.applyServices] {
