@@ -36,6 +36,37 @@
     </message>
 </context>
 <context>
+    <name>Amounts</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Today at %1</source>
+        <translation>Heute um %1</translation>
+    </message>
+    <message>
+        <source>Yesterday at %1</source>
+        <translation>Gestern um %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 um %2</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d. MMM yyyy</translation>
+    </message>
+</context>
+<context>
     <name>AnalysisProgress</name>
     <message>
         <source>Looking at the shapes of icons: %1 %</source>
@@ -2220,7 +2251,7 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     <name>KeepStepper</name>
     <message>
         <source>Keep the newest %1</source>
-        <translation>Die neuesten %1 behalten</translation>
+        <translation>Die letzten %1</translation>
     </message>
     <message>
         <source>Keep fewer backups</source>
@@ -2326,6 +2357,21 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     <message>
         <source>Tavrik</source>
         <translation>Tavrik</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkWords</name>
+    <message>
+        <source>macOS %1 to %2</source>
+        <translation>macOS %1 bis %2</translation>
+    </message>
+    <message>
+        <source>macOS %1 or later</source>
+        <translation>macOS %1 oder neuer</translation>
+    </message>
+    <message>
+        <source>macOS up to %1</source>
+        <translation>macOS bis %1</translation>
     </message>
 </context>
 <context>
@@ -2602,7 +2648,7 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     </message>
     <message>
         <source>Leave</source>
-        <translation>Weggehen</translation>
+        <translation>Verlassen</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -2750,6 +2796,18 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     <message>
         <source>Export Theme</source>
         <translation>Thema exportieren</translation>
+    </message>
+    <message>
+        <source>Replace “%1”?</source>
+        <translation>„%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already. What is in it would be lost.</source>
+        <translation>Eine Datei dieses Namens gibt es schon. Was darin ist, ginge verloren.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
     </message>
 </context>
 <context>

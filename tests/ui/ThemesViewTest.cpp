@@ -297,6 +297,55 @@ TEST_F(ThemesViewTest, TakesBackAThemeThatItHandedOut) {
     EXPECT_EQ(themes().size(), 2u);
 }
 
+TEST_F(ThemesViewTest, ReplacesNoFileUnasked) {
+    startWithTheme();
+    const HostPath file = write("Ocean.tavriktheme");
+    const auto before = readHostFile(file);
+    const auto exportIt = [&](const char* answer) {
+        page().exportTheme(named(ocean.themeID), QUrl::fromLocalFile(named(file.string())));
+        ASSERT_TRUE(waitFor([&] { return click(answer); })) << answer;
+        ASSERT_TRUE(waitFor([&] { return !find(answer); }));
+        ASSERT_TRUE(finishes());
+    };
+    exportIt("confirm-cancel");
+    EXPECT_EQ(*readHostFile(file), *before);
+    exportIt("confirm-go");
+    EXPECT_NE(*readHostFile(file), *before);
+}
+
+/// Where the system has no panel, Qt's own stands in.
+TEST_F(ThemesViewTest, AsksForFilesByDialogs) {
+    startWithTheme();
+    const auto panel = [&]() -> QObject* {
+        for (QQuickItem* const layer : window()->contentItem()->childItems()) {
+            for (QQuickItem* const item : layer->childItems()) {
+                if (item->isVisible() && item->parent() && item->parent()->inherits("QQuickDialog"))
+                    return item->parent();
+            }
+        }
+        return nullptr;
+    };
+    const auto choose = [&](const char* asks, const char* property, const HostPath& chosen) {
+        ASSERT_TRUE(waitFor([&] { return click(asks); })) << asks;
+        ASSERT_TRUE(waitFor([&] { return panel() != nullptr; })) << asks;
+        panel()->setProperty(property, QUrl::fromLocalFile(named(chosen.string())));
+        QMetaObject::invokeMethod(panel(), "accept");
+        ASSERT_TRUE(waitFor([&] { return panel() == nullptr; })) << asks;
+        ASSERT_TRUE(finishes());
+    };
+    const HostPath file = folder.path() / "Ocean.tavriktheme";
+    openTheme("Safari");
+    choose("exportTheme", "selectedFile", file);
+    EXPECT_TRUE(waitFor([&] { return bool(readHostFile(file)); }));
+    ASSERT_TRUE(finishes());
+    page().showLibrary();
+    choose("importTheme", "selectedFile", file);
+    EXPECT_TRUE(waitFor([&] { return themes().size() == 2; }));
+    write("Mail.png");
+    choose("importFolder", "selectedFolder", folder.path());
+    EXPECT_TRUE(waitFor([&] { return page().folderImport()->tickedCount() == 1; }));
+}
+
 TEST_F(ThemesViewTest, TakesPicturesByTheTileOrByTheirNames) {
     startWithTheme();
     openTheme("Safari");

@@ -29,9 +29,10 @@ QString sizeText(std::uint64_t bytes) {
         return locale.toString(static_cast<double>(bytes) / static_cast<double>(unit), 'f', 1);
     };
     if (bytes < kMegabyte - kKilobyte)
-        return translated("%1 KB").arg(
-            locale.toString(static_cast<qulonglong>((bytes + kKilobyte - 1) / kKilobyte)));
-    return bytes < kGigabyte ? translated("%1 MB").arg(in(kMegabyte)) : translated("%1 GB").arg(in(kGigabyte));
+        return translated(QT_TRANSLATE_NOOP("Amounts", "%1 KB"))
+            .arg(locale.toString(static_cast<qulonglong>((bytes + kKilobyte - 1) / kKilobyte)));
+    return bytes < kGigabyte ? translated(QT_TRANSLATE_NOOP("Amounts", "%1 MB")).arg(in(kMegabyte))
+                             : translated(QT_TRANSLATE_NOOP("Amounts", "%1 GB")).arg(in(kGigabyte));
 }
 
 QString momentText(Date moment, Date now) {
@@ -40,10 +41,11 @@ QString momentText(Date moment, Date now) {
     const QLocale locale;
     const QString hour = locale.toString(time.time(), QLocale::ShortFormat);
     if (days == 0)
-        return translated("Today at %1").arg(hour);
+        return translated(QT_TRANSLATE_NOOP("Amounts", "Today at %1")).arg(hour);
     if (days == 1)
-        return translated("Yesterday at %1").arg(hour);
-    return translated("%1 at %2").arg(locale.toString(time.date(), translated("d MMM yyyy")), hour);
+        return translated(QT_TRANSLATE_NOOP("Amounts", "Yesterday at %1")).arg(hour);
+    return translated(QT_TRANSLATE_NOOP("Amounts", "%1 at %2"))
+        .arg(locale.toString(time.date(), translated(QT_TRANSLATE_NOOP("Amounts", "d MMM yyyy"))), hour);
 }
 
 } // namespace tavrik

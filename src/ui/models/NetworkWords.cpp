@@ -35,10 +35,12 @@ QString systemText(const SystemVersion& version) {
 
 QString systemsText(const std::optional<SystemVersion>& minimum, const std::optional<SystemVersion>& maximum) {
     if (minimum && maximum)
-        return translated("macOS %1 to %2").arg(systemText(*minimum), systemText(*maximum));
+        return translated(QT_TRANSLATE_NOOP("NetworkWords", "macOS %1 to %2"))
+            .arg(systemText(*minimum), systemText(*maximum));
     if (minimum)
-        return translated("macOS %1 or later").arg(systemText(*minimum));
-    return maximum ? translated("macOS up to %1").arg(systemText(*maximum)) : QString();
+        return translated(QT_TRANSLATE_NOOP("NetworkWords", "macOS %1 or later")).arg(systemText(*minimum));
+    return maximum ? translated(QT_TRANSLATE_NOOP("NetworkWords", "macOS up to %1")).arg(systemText(*maximum))
+                   : QString();
 }
 
 } // namespace tavrik

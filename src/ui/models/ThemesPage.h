@@ -14,6 +14,7 @@
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
 #include <vector>
 
 namespace tavrik {
@@ -31,6 +32,8 @@ class ThemesPage : public QObject {
     Q_PROPERTY(tavrik::ThemeLook* look READ look CONSTANT)
     Q_PROPERTY(bool isCreating READ isCreating WRITE setCreating NOTIFY changed) ///< the sheet is shown
     Q_PROPERTY(QString createProblem READ createProblem NOTIFY changed)          ///< why no theme was made
+    /// The file that an export waits to replace, until the person says so; empty when none does.
+    Q_PROPERTY(QString fileToReplace READ fileToReplace NOTIFY changed)
 
 public:
     ThemesPage(const UiServices& with, ThemeLook& look);
@@ -53,6 +56,8 @@ public:
 
     QString createProblem() const { return m_createProblem; }
 
+    QString fileToReplace() const;
+
     /// The view is there: from now on the themes are read.
     Q_INVOKABLE void open();
 
@@ -71,7 +76,11 @@ public:
     Q_INVOKABLE void keep(const QString& themeID);
 
     Q_INVOKABLE void importFiles(const QList<QUrl>& files);
+    /// Into a new file. One that is there already is replaced only after a question: the panel's own, where the
+    /// system's panel asks, or else one that waits for `replaceFile` or `keepFile`.
     Q_INVOKABLE void exportTheme(const QString& themeID, const QUrl& file);
+    Q_INVOKABLE void replaceFile();
+    Q_INVOKABLE void keepFile();
     /// What a theme's file is called unless the person says otherwise.
     Q_INVOKABLE QString exportName(const QString& themeID) const;
 
@@ -82,7 +91,13 @@ Q_SIGNALS:
     void changed();
 
 private:
+    struct Export {
+        QString themeID;
+        QUrl file;
+    };
+
     void update();
+    void write(const Export& wanted);
 
     const UiServices m_with;
     ThemeLook& m_look;
@@ -93,6 +108,7 @@ private:
     FolderImportModel m_folderImport;
     bool m_isCreating = false;
     QString m_createProblem;
+    std::optional<Export> m_waiting; ///< for an answer about the file that is there
 };
 
 } // namespace tavrik

@@ -10,8 +10,10 @@
 #include "ui/models/ThemesPage.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace tavrik {
 
@@ -21,6 +23,12 @@ constexpr auto kThemeFileExtension = "tavriktheme";
 
 HostPath pathOf(const QUrl& url) {
     return HostPath(url.toLocalFile().toStdString());
+}
+
+/// The Mac's panel does not hand over the name of a file that is there before the person has agreed to replace
+/// it.
+bool doesPanelAsk() {
+    return QGuiApplication::platformName() == QLatin1String("cocoa");
 }
 
 /// What came of several theme files.
@@ -72,17 +80,47 @@ QString ThemesPage::exportName(const QString& themeID) const {
 }
 
 void ThemesPage::exportTheme(const QString& themeID, const QUrl& file) {
-    const ThemeFacts* const facts = m_shelf.reading().find(themeID.toStdString());
+    const Export wanted{themeID, file};
+    if (doesPanelAsk())
+        return write(wanted);
+    m_with.background.run(
+        this, [target = file.toLocalFile()] { return QFileInfo::exists(target); },
+        [this, wanted](bool isThere) {
+            if (!isThere)
+                return write(wanted);
+            m_waiting = wanted;
+            Q_EMIT changed();
+        });
+}
+
+QString ThemesPage::fileToReplace() const {
+    return m_waiting ? m_waiting->file.fileName() : QString();
+}
+
+void ThemesPage::replaceFile() {
+    if (const auto wanted = std::exchange(m_waiting, std::nullopt)) {
+        Q_EMIT changed();
+        write(*wanted);
+    }
+}
+
+void ThemesPage::keepFile() {
+    if (std::exchange(m_waiting, std::nullopt))
+        Q_EMIT changed();
+}
+
+void ThemesPage::write(const Export& wanted) {
+    const ThemeFacts* const facts = m_shelf.reading().find(wanted.themeID.toStdString());
     if (!facts || !m_work.begin(tr("Exporting “%1”…").arg(toQString(facts->theme.name)), facts->theme.themeID))
         return;
     m_with.background.run(
         this,
-        [&managers = m_with.managers, theme = facts->theme, target = pathOf(file)]() -> Status {
+        [&managers = m_with.managers, theme = facts->theme, target = pathOf(wanted.file)]() -> Status {
             const auto content = ThemeExchange(managers.applyServices.mac, managers.themes).exportTheme(theme);
             return content ? writeHostFile(target, *content) : content.error();
         },
         [this, name = toQString(facts->theme.name),
-         target = toQString(pathOf(file).name())](const Status& written) {
+         target = toQString(pathOf(wanted.file).name())](const Status& written) {
             if (written)
                 m_work.end(tr("“%1” is saved as “%2”.").arg(name, target));
             else

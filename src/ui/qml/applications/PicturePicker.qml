@@ -20,6 +20,7 @@ Item {
 
         active: false
         sourceComponent: FileDialog {
+            objectName: "dialog-pictures"
             title: qsTr("Choose Pictures")
             fileMode: FileDialog.OpenFiles
             nameFilters: [

@@ -22,6 +22,7 @@ Item {
     FileDialog {
         id: themeFile
 
+        objectName: "dialog-import-theme"
         title: qsTr("Import Themes")
         fileMode: FileDialog.OpenFiles
         nameFilters: [qsTr("Themes (*.tavriktheme)")]
@@ -30,16 +31,38 @@ Item {
     FolderDialog {
         id: pictures
 
+        objectName: "dialog-import-folder"
         title: qsTr("Import a Folder of Pictures")
         onAccepted: dialogs.page.folderImport.begin(selectedFolder)
     }
     FileDialog {
         id: target
 
+        objectName: "dialog-export-theme"
         title: qsTr("Export Theme")
         fileMode: FileDialog.SaveFile
         defaultSuffix: "tavriktheme"
         nameFilters: [qsTr("Themes (*.tavriktheme)")]
         onAccepted: dialogs.page.exportTheme(dialogs.page.theme.themeID, selectedFile)
+    }
+    ConfirmSheet {
+        id: replace
+
+        property string file
+
+        title: qsTr("Replace “%1”?").arg(file)
+        text: qsTr("There is a file of this name already. What is in it would be lost.")
+        confirmText: qsTr("Replace")
+        onConfirmed: dialogs.page.replaceFile()
+        onClosed: dialogs.page.keepFile()
+    }
+    Connections {
+        target: dialogs.page
+        function onChanged() {
+            if (!dialogs.page.fileToReplace)
+                return
+            replace.file = dialogs.page.fileToReplace
+            replace.open()
+        }
     }
 }
