@@ -302,13 +302,12 @@ TEST_F(UpdatesTest, ReplacesTextsAndLinksThatMayBeReplacedAndNoOthers) {
     EXPECT_EQ(summary(), builtIn);
 }
 
-TEST_F(UpdatesTest, ChecksOnlyWhenTheStartAndAnApplyAreOver) {
-    isNetworkAsked = false;
-    EXPECT_TRUE(
-        NetworkConsent(mac.defaults).write({.isAsked = true, .wantsTexts = true, .wantsUpdates = true}));
-    start();
+TEST_F(UpdatesTest, AsksNothingWhileAnApplyRuns) {
+    startWhole();
     program->managers().progress.show(window(), 1);
-    ASSERT_TRUE(waitFor([&] { return model().updates()->isKnown(); }));
+    ASSERT_TRUE(waitFor([&] { return model().isBlocked(); }));
+    model().updates()->setChecksForUpdates(true);
+    model().updates()->setFetchesTexts(true);
     settled(window());
     EXPECT_EQ(server.requests(), 0);
     program->managers().progress.hide();
