@@ -1887,6 +1887,18 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
         <source>Tavrik installs nothing by itself: it opens the page in your browser.</source>
         <translation>Tavrik installiert nichts von selbst: Es öffnet die Seite in deinem Browser.</translation>
     </message>
+    <message>
+        <source>Switch Tavrik on in System Preferences &gt; Security &amp; Privacy &gt; Privacy &gt; Full Disk Access (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Sicherheit &amp; Datenschutz &gt; Datenschutz &gt; Festplattenvollzugriff ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+    </message>
+    <message>
+        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; App Management (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; App-Verwaltung ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+    </message>
+    <message>
+        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; Full Disk Access (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Festplattenvollzugriff ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+    </message>
 </context>
 <context>
     <name>CreateThemeSheet</name>
@@ -2507,6 +2519,10 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
         <source>Apply</source>
         <translation>Anwenden</translation>
     </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Datenschutz-Einstellungen öffnen</translation>
+    </message>
 </context>
 <context>
     <name>PreviewBar</name>
@@ -2577,6 +2593,17 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     <message>
         <source>Launchpad is empty</source>
         <translation>Launchpad ist leer</translation>
+    </message>
+</context>
+<context>
+    <name>PrivacyBar</name>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Datenschutz-Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Erneut nachsehen</translation>
     </message>
 </context>
 <context>
@@ -3871,6 +3898,13 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
     <message>
         <source>Trash</source>
         <translation>Papierkorb</translation>
+    </message>
+</context>
+<context>
+    <name>tavrik::PrivacySettings</name>
+    <message>
+        <source>The system&apos;s settings could not be opened.</source>
+        <translation>Die Systemeinstellungen konnten nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>

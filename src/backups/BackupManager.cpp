@@ -10,6 +10,7 @@
 #include "platform/PathComponent.h"
 #include "platform/SqliteCopy.h"
 #include "platform/Threads.h"
+#include "system/AccessCheck.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
 
@@ -221,6 +222,8 @@ Status BackupManager::restoreBackup(const MacPath& backup) {
         log(restoreLine(*fault));
         return Error{inWords(*fault)};
     }
+    if (Status access = checkAccess(m_mac, m_settings.appSupportURL()); !access)
+        return access;
     if (Status kept = keepPresentState(backup); !kept)
         return kept;
     Status restored = m_restore.run(std::get<BackupContents>(reading));

@@ -8,6 +8,7 @@
 #include "cli/Table.h"
 #include "cli/Words.h"
 #include "platform/Log.h"
+#include "platform/PrivacyRefusal.h"
 
 #include <algorithm>
 #include <functional>
@@ -150,8 +151,11 @@ ExitCode BackupRestoreCommand::run(Companion& companion) {
     const bool wasStaged = !staged || !staged->changes.empty();
     const std::vector<MacPath> earlier = managers.backups.listBackups();
 
-    if (const Status restored = managers.backups.restoreBackup(backup->url); !restored)
-        return companion.fail(restored.error().description);
+    if (const Status restored = managers.backups.restoreBackup(backup->url); !restored) {
+        return isPrivacyRefusal(restored.error())
+                   ? companion.refuse("Nothing was changed. " + restored.error().description)
+                   : companion.fail(restored.error().description);
+    }
     // Not before: the Dock writes when it starts, and a backup of no use is no reason to start it.
     companion.host().startSession();
     managers.launchpad.restartDock();

@@ -6,6 +6,8 @@
 #include "maintenance/Belongings.h"
 #include "maintenance/RemoveEverything.h"
 #include "maintenance/Traces.h"
+#include "model/SettingsManager.h"
+#include "system/AccessCheck.h"
 
 #include <cstdint>
 
@@ -46,7 +48,10 @@ ExitCode RemoveEverythingCommand::run(Companion& companion) {
     if (const ExitCode opened = companion.open(Access::writing); opened != ExitCode::done)
         return opened;
     companion.managers().themes.loadThemes();
-    const Result<Traces> traces = readTraces(companion.managers().applyServices);
+    const ApplyServices& with = companion.managers().applyServices;
+    if (const Status access = checkAccess(with.mac, with.settings.appSupportURL()); !access)
+        return companion.refuse("Nothing was changed. " + access.error().description);
+    const Result<Traces> traces = readTraces(with);
     if (!traces)
         return companion.fail(traces.error().description);
     if (traces->empty()) {

@@ -17,6 +17,7 @@
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Threads.h"
+#include "system/AccessCheck.h"
 #include "system/DockManager.h"
 #include "system/LaunchpadManager.h"
 #include "wrappers/TavrikAppManager.h"
@@ -127,6 +128,8 @@ Result<std::vector<std::string>> RemoveEverything::traces() const {
 
 Result<RemoveEverything::Outcome> RemoveEverything::removeFromSystem() {
     assertOffMainThread("Removing everything");
+    if (const Status access = checkAccess(m_with.mac, m_with.settings.appSupportURL()); !access)
+        return access.error();
     const Result<Traces> before = readTraces(m_with);
     if (!before)
         return before.error();

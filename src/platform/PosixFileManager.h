@@ -44,6 +44,11 @@ public:
     /// followed. An error when a component above the last is missing or links go in a circle (more than 40).
     Result<HostPath> hostPath(const MacPath& path, Links links) const;
 
+protected:
+    /// Why the system does not let the program at a path, before anything is done there; nothing when it does.
+    /// Where something is and what it is may always be asked.
+    virtual std::error_code refusalAt(const MacPath&) const { return {}; }
+
 private:
     static Error failure(const MacPath& path, std::error_code reason);
     static Error failure(const MacPath& path, std::errc reason);

@@ -152,6 +152,8 @@ Result<HostPath> PosixFileManager::hostPath(const MacPath& path, Links links) co
 }
 
 Result<std::string> PosixFileManager::locate(const MacPath& path, Links links) const {
+    if (const auto refused = refusalAt(path))
+        return failure(path, refused);
     // The host's own volume needs no detour: the system follows the links itself.
     if (m_root.string() == "/") {
         if (const auto refused = refusal(path.string()))

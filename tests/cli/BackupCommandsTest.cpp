@@ -2,6 +2,7 @@
 #include "platform/PathRules.h"
 #include "platform/Sqlite.h"
 #include "platform/practice/Layout.h"
+#include "platform/practice/PropertyListFile.h"
 #include "practice/dock/Dock.h"
 
 using namespace tavrik;
@@ -66,6 +67,23 @@ TEST_F(Backups, LeadBackToWhatWasThereAndToWhatWasThereBeforeThat) {
 
     run({"backup", "restore", undo});
     EXPECT_THAT(shown(), EndsWith(":\nMail moved from page 1 to page 3.\n"));
+}
+
+TEST_F(Backups, AreNotRestoredWhereMacOSRefusesWhatThatNeeds) {
+    run({"font", "set", "Small Caps"});
+    const MacPath preferences = kDockPlist.parent();
+    ASSERT_TRUE(practice::writePropertyList(volume, practice::kRefusedPaths,
+                                            plist::Array{plist::Value(preferences.string())}));
+    const auto before = treeOf(volume, practice::kHome / "Library/Preferences");
+    for (const Arguments& command : {Arguments{"backup", "restore", "Original State"}, Arguments{"apply"},
+                                     Arguments{"remove-everything", "--yes"}}) {
+        EXPECT_THAT(run(command, 3).errors, AllOf(HasSubstr("macOS keeps it from ~/Library/Preferences."),
+                                                  HasSubstr("> Full Disk Access")))
+            << command.front();
+        EXPECT_THAT(differences(before, treeOf(volume, practice::kHome / "Library/Preferences")), IsEmpty());
+    }
+    ASSERT_TRUE(volume.remove(practice::kRefusedPaths));
+    run({"backup", "restore", "Original State"});
 }
 
 TEST_F(Backups, AreListedAndKeptAsManyAsWanted) {

@@ -1,4 +1,6 @@
 #include "UiStage.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PropertyListFile.h"
 
 #include <QTimer>
 
@@ -85,6 +87,25 @@ TEST_F(WindowTest, CallsBackWhoLooksElsewhereWhenSomethingLongEnds) {
     window()->requestActivate();
     restore();
     EXPECT_EQ(messages.shown.size(), 2U) << "the window tells it";
+}
+
+TEST_F(WindowTest, TellsFromTheStartOnWhatMacOSRefusesAndOpensItsSettings) {
+    ASSERT_TRUE(practice::writePropertyList(mac.files, practice::kRefusedPaths,
+                                            plist::Array{plist::Value("/Applications")}));
+    start();
+    ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("privacy-settings")) != nullptr; }));
+
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    model().apply()->begin();
+    ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("remark-action")) != nullptr; }));
+    ASSERT_EQ(model().apply()->obstacles().size(), 1);
+    EXPECT_TRUE(model().apply()->obstacles().first().contains(QStringLiteral("> Full Disk Access")));
+    EXPECT_FALSE(find(QStringLiteral("apply-go"))->isEnabled());
+    model().apply()->close();
+
+    ASSERT_TRUE(mac.files.remove(practice::kRefusedPaths));
+    model().privacy()->look();
+    EXPECT_TRUE(waitFor([&] { return model().privacy()->text().isEmpty(); }));
 }
 
 TEST_F(WindowTest, AsksBeforeItClosesWithStagedChanges) {

@@ -6,6 +6,7 @@
 #include "platform/FileManager.h"
 #include "platform/Mac.h"
 #include "platform/PathRules.h"
+#include "system/AccessCheck.h"
 #include "system/DatabaseManager.h"
 #include "system/DockManager.h"
 #include "wrappers/TavrikAppManager.h"
@@ -81,6 +82,9 @@ void lookAtSpace(const ApplyServices& with, const ApplySnapshot& snapshot,
 
 std::vector<std::string> obstaclesTo(const ApplyServices& with, const ApplySnapshot& snapshot) {
     std::vector<std::string> obstacles;
+    // What else would be told follows from it.
+    if (const Status access = checkAccess(with.mac, with.settings.appSupportURL()); !access)
+        return {access.error().description};
     lookAtLaunchpad(with, obstacles);
     if (!with.dock.readDockPlist())
         obstacles.push_back("The Dock's preferences cannot be read: " + with.dock.dockPlistPath().string() +

@@ -7,7 +7,9 @@
 #include "changes/apply/ProgressOverlayManager.h"
 #include "changes/apply/steps/Steps.h"
 #include "fonts/FontManager.h"
+#include "model/SettingsManager.h"
 #include "model/catalogue/AppManager.h"
+#include "platform/Mac.h"
 #include "platform/Threads.h"
 
 #include <array>
@@ -54,6 +56,11 @@ ApplyPipeline::Preview ApplyPipeline::preview(const StagedChanges& staged) const
     Preview preview;
     preview.snapshot = takeSnapshot(m_services, staged);
     preview.obstacles = obstaclesTo(m_services, preview.snapshot);
+    if (!preview.obstacles.empty()) {
+        const auto refused = refusedPlaces(m_services.mac, m_services.settings.appSupportURL());
+        if (!refused.empty())
+            preview.refusedBy = paneFor(refused, m_services.mac.machine.systemVersion());
+    }
     preview.runningApps = runningAffectedApps(m_services.mac, preview.snapshot);
     if (const auto stores = readApplyStores(m_services, preview.snapshot))
         preview.plan = planOf(preview.snapshot, *stores, m_services.fonts.fontReplacer());

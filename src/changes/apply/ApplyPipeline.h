@@ -6,6 +6,7 @@
 #include "changes/apply/ApplyServices.h"
 #include "platform/Path.h"
 #include "platform/Result.h"
+#include "system/AccessCheck.h"
 
 #include <optional>
 #include <string>
@@ -58,6 +59,7 @@ public:
         ApplySnapshot snapshot;
         ApplyPlan plan;
         std::vector<std::string> obstacles;
+        std::optional<PrivacyPane> refusedBy;     ///< where the person can allow what macOS refuses
         std::vector<ApplicationInfo> runningApps; ///< to be closed before
     };
 

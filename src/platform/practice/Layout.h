@@ -40,6 +40,9 @@ inline const MacPath kLocalNotificationJournal = kStateFolder / "messages.log";
 inline const MacPath kRunningApplications = kStateFolder / "running.plist";
 /// Property list: array of the paths that carry the hidden flag.
 inline const MacPath kHiddenPaths = kStateFolder / "hidden.plist";
+/// Property list: array of the paths at and below which the file manager refuses everything, as a Mac's privacy
+/// protection does. Missing as long as nothing is refused.
+inline const MacPath kRefusedPaths = kStateFolder / "refused.plist";
 /// Property list, all optional: restartDelay, indexDelay (seconds, reals), indexes (boolean: whether the Dock
 /// indexes at all).
 inline const MacPath kBehaviour = kStateFolder / "behaviour.plist";

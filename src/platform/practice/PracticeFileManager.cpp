@@ -1,6 +1,10 @@
 #include "platform/practice/PracticeFileManager.h"
 
 #include "platform/practice/AppleDouble.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PropertyListFile.h"
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <optional>
@@ -19,7 +23,9 @@ std::optional<MacPath> existingCompanion(const PosixFileManager& files, const Ma
 
 } // namespace
 
-PracticeFileManager::PracticeFileManager(HostPath root) : PosixFileManager(std::move(root)) {}
+PracticeFileManager::PracticeFileManager(HostPath root)
+    : PosixFileManager(root),
+      m_refusedPaths(root / kRefusedPaths.string().substr(1)) {}
 
 Result<std::vector<std::string>> PracticeFileManager::list(const MacPath& folder) const {
     auto names = PosixFileManager::list(folder);
@@ -73,6 +79,21 @@ Status PracticeFileManager::remove(const MacPath& path) {
             return dropped;
     }
     return PosixFileManager::remove(path);
+}
+
+std::error_code PracticeFileManager::refusalAt(const MacPath& path) const {
+    // Asked before each operation: without the list it costs one call.
+    if (::access(m_refusedPaths.string().c_str(), F_OK) != 0 || path == kRefusedPaths)
+        return {};
+    const auto listed = readPropertyList(*this, kRefusedPaths);
+    const auto* refused = listed && *listed ? (*listed)->as<plist::Array>() : nullptr;
+    if (!refused)
+        return {};
+    const bool isRefused = std::ranges::any_of(*refused, [&](const plist::Value& place) {
+        const auto* const prefix = place.as<std::string>();
+        return prefix && (path.string() + "/").starts_with(*prefix + "/");
+    });
+    return isRefused ? std::make_error_code(std::errc::operation_not_permitted) : std::error_code();
 }
 
 Status PracticeFileManager::dropCompanion(const MacPath& path) {

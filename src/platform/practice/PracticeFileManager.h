@@ -19,10 +19,16 @@ public:
     Status replace(const MacPath& original, const MacPath& replacement) override;
     Status remove(const MacPath& path) override;
 
+protected:
+    /// EPERM at and below the paths that the practice Mac's state names.
+    std::error_code refusalAt(const MacPath& path) const override;
+
 private:
     Status dropCompanion(const MacPath& path);
     Status takeCompanion(const MacPath& from, const MacPath& to);
     Status undoCopy(const MacPath& copy, const Status& reason);
+
+    HostPath m_refusedPaths; ///< the list on the host
 };
 
 } // namespace tavrik::practice

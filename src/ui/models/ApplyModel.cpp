@@ -11,6 +11,7 @@
 #include "ui/models/CoreWords.h"
 #include "ui/models/EndNotice.h"
 #include "ui/models/Notices.h"
+#include "ui/models/PrivacySettings.h"
 #include "ui/models/Text.h"
 
 #include <QClipboard>
@@ -161,6 +162,7 @@ void ApplyModel::show(const Planned& planned) {
     m_plannedApps = static_cast<int>(planned.preview.plan.created.size() + planned.preview.plan.updated.size() +
                                      planned.preview.plan.removed.size());
     m_obstacles = inTheirLanguage(planned.preview.obstacles);
+    m_refusedBy = planned.preview.refusedBy;
     m_runningApps.clear();
     m_runningIDs.clear();
     for (const ApplicationInfo& app : planned.preview.runningApps) {
@@ -181,6 +183,11 @@ void ApplyModel::askAppsToQuit() {
             mac.clock.sleep(kForQuitting);
         },
         [this] { plan(); });
+}
+
+void ApplyModel::openPrivacySettings() const {
+    if (m_refusedBy)
+        tavrik::openPrivacySettings(*m_refusedBy, m_with.notices);
 }
 
 void ApplyModel::apply() {

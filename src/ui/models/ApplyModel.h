@@ -28,6 +28,8 @@ class ApplyModel : public QObject {
     Q_PROPERTY(QStringList summary READ summary NOTIFY changed)
     Q_PROPERTY(QVariantList details READ details NOTIFY changed)
     Q_PROPERTY(QStringList obstacles READ obstacles NOTIFY changed)
+    /// macOS refuses what an apply needs, and the person can allow it.
+    Q_PROPERTY(bool isRefusedByMac READ isRefusedByMac NOTIFY changed)
     Q_PROPERTY(QStringList runningApps READ runningApps NOTIFY changed)
 
     /// Of what runs: an apply, or something else that owns the interface. A total of 0 is not known.
@@ -55,6 +57,8 @@ public:
 
     QStringList obstacles() const { return m_obstacles; }
 
+    bool isRefusedByMac() const { return m_refusedBy.has_value(); }
+
     QStringList runningApps() const { return m_runningApps; }
 
     bool isApplying() const { return m_isApplying; }
@@ -73,6 +77,8 @@ public:
     Q_INVOKABLE void begin();
     /// Asks the running applications to quit, as from their menus, and looks again a little later.
     Q_INVOKABLE void askAppsToQuit();
+    /// Opens the system's settings where that can be allowed.
+    Q_INVOKABLE void openPrivacySettings() const;
     Q_INVOKABLE void apply();
     /// From the plan, or from the result, back to the window.
     Q_INVOKABLE void close();
@@ -97,6 +103,7 @@ private:
     QStringList m_summary;
     QVariantList m_details;
     QStringList m_obstacles;
+    std::optional<PrivacyPane> m_refusedBy;
     QStringList m_runningApps;
     std::vector<std::string> m_runningIDs;
     int m_plannedApps = 0; ///< that look different afterwards

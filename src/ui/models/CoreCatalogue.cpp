@@ -16,6 +16,15 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "The Dock's preferences are missing: %1."),
     QT_TRANSLATE_NOOP(
         "Core", "This Mac does not tell its serial number, so that backups can be neither made nor opened."),
+    QT_TRANSLATE_NOOP(
+        "Core", "Switch Tavrik on in System Preferences > Security & Privacy > Privacy > Full Disk Access (for "
+                "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
+    QT_TRANSLATE_NOOP("Core",
+                      "Switch Tavrik on in System Settings > Privacy & Security > App Management (for "
+                      "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
+    QT_TRANSLATE_NOOP("Core",
+                      "Switch Tavrik on in System Settings > Privacy & Security > Full Disk Access (for "
+                      "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
     QT_TRANSLATE_NOOP("Core", "Nothing is applied without a backup."),
     QT_TRANSLATE_NOOP("Core", "\"%1\" cannot be used. %2"),
     QT_TRANSLATE_NOOP("Core", "Another backup may serve. Delete the file if you do not need it."),

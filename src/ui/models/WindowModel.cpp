@@ -35,6 +35,7 @@ WindowModel::WindowModel(const UiServices& with, WindowAlerts& alerts)
       m_preferences(with, m_themeLook),
       m_words(with),
       m_updates(with, m_words),
+      m_privacy(with),
       m_isFirstStart(!with.host.mac().defaults.value(kWelcomed)),
       m_wasWelcomed(!m_isFirstStart),
       m_menus(*this, with.delegate) {
@@ -58,6 +59,7 @@ void WindowModel::stateMayHaveChanged() {
     if (m_wasStarting && !m_with.delegate.isStarting()) {
         m_wasStarting = false;
         m_edits.begin();
+        m_privacy.look();
     }
     Q_EMIT stateChanged();
     occupationMayHaveChanged();

@@ -14,6 +14,7 @@
 #include "ui/models/Notices.h"
 #include "ui/models/PreferencesPage.h"
 #include "ui/models/PreviewModel.h"
+#include "ui/models/PrivacyNote.h"
 #include "ui/models/ThemesPage.h"
 #include "ui/models/UiServices.h"
 #include "ui/models/UpdatesPage.h"
@@ -45,6 +46,7 @@ class WindowModel : public QObject {
     Q_PROPERTY(tavrik::PreferencesPage* preferences READ preferences CONSTANT)
     Q_PROPERTY(tavrik::UpdatesPage* updates READ updates CONSTANT)
     Q_PROPERTY(tavrik::InterfaceWords* words READ words CONSTANT)
+    Q_PROPERTY(tavrik::PrivacyNote* privacy READ privacy CONSTANT)
     Q_PROPERTY(tavrik::WindowAlerts* alerts READ alerts CONSTANT)
     Q_PROPERTY(tavrik::Images* images READ images CONSTANT)
     Q_PROPERTY(tavrik::Notices* notices READ notices CONSTANT)
@@ -106,6 +108,8 @@ public:
     UpdatesPage* updates() { return &m_updates; }
 
     InterfaceWords* words() { return &m_words; }
+
+    PrivacyNote* privacy() { return &m_privacy; }
 
     WindowAlerts* alerts() { return &m_alerts; }
 
@@ -174,6 +178,7 @@ private:
     PreferencesPage m_preferences;
     InterfaceWords m_words;
     UpdatesPage m_updates;
+    PrivacyNote m_privacy;
     Place m_place = Place::UserApps;
     bool m_showsPreview = false;
     bool m_isFirstStart;

@@ -68,10 +68,18 @@ C.ApplicationWindow {
         model: window.model
         enabled: !window.model.isBlocked
     }
-    ContentArea {
+    PrivacyBar {
+        id: privacyBar
+
         anchors.left: sidebar.right
         anchors.right: parent.right
         anchors.top: toolbar.bottom
+        privacy: window.model.privacy
+    }
+    ContentArea {
+        anchors.left: sidebar.right
+        anchors.right: parent.right
+        anchors.top: privacyBar.bottom
         anchors.bottom: parent.bottom
         model: window.model
         enabled: !window.model.isBlocked

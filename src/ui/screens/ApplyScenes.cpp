@@ -1,4 +1,9 @@
 #include "platform/Alerts.h"
+#include "platform/FileManager.h"
+#include "platform/Mac.h"
+#include "platform/Volume.h"
+#include "platform/practice/Layout.h"
+#include "platform/practice/PropertyListFile.h"
 #include "ui/Program.h"
 #include "ui/models/WindowAlerts.h"
 #include "ui/screens/Scene.h"
@@ -12,7 +17,28 @@ namespace tavrik {
 
 namespace {
 
+QQuickWindow* showRefusal(Program& program) {
+    const Mac& mac = program.managers().applyServices.mac;
+    const plist::Array places{(mac.volume.home() / "Library/Preferences").string(), "/Applications"};
+    ignoreFailure(practice::writePropertyList(mac.files, practice::kRefusedPaths, places));
+    program.model().setShowsPreview(false);
+    program.model().privacy()->look();
+    Stagehand::waitFor([&] { return !program.model().privacy()->text().isEmpty(); });
+    return program.mainWindow();
+}
+
+QQuickWindow* showRefusedPlan(Program& program) {
+    program.managers().pendingChanges.setPendingFont("Small Caps");
+    program.model().apply()->begin();
+    Stagehand::waitFor([&] { return program.model().apply()->stage() == ApplyModel::Stage::Plan; });
+    return program.mainWindow();
+}
+
 QQuickWindow* showPlan(Program& program) {
+    ignoreFailure(program.managers().applyServices.mac.files.remove(practice::kRefusedPaths));
+    program.model().privacy()->look();
+    Stagehand::waitFor([&] { return program.model().privacy()->text().isEmpty(); });
+    program.model().apply()->close();
     program.model().setShowsPreview(false);
     program.managers().pendingChanges.setPendingFont("Small Caps");
     program.model().apply()->begin();
@@ -67,9 +93,14 @@ QQuickWindow* showNotice(Program& program) {
 
 std::vector<Scene> applyScenes() {
     return {
-        {QStringLiteral("apply-plan"), showPlan},         {QStringLiteral("apply-plan-details"), showDetails},
-        {QStringLiteral("apply-progress"), showProgress}, {QStringLiteral("apply-question"), showQuestion},
-        {QStringLiteral("apply-welcome"), showWelcome},   {QStringLiteral("apply-notice"), showNotice},
+        {QStringLiteral("apply-refused"), showRefusal},
+        {QStringLiteral("apply-refused-plan"), showRefusedPlan},
+        {QStringLiteral("apply-plan"), showPlan},
+        {QStringLiteral("apply-plan-details"), showDetails},
+        {QStringLiteral("apply-progress"), showProgress},
+        {QStringLiteral("apply-question"), showQuestion},
+        {QStringLiteral("apply-welcome"), showWelcome},
+        {QStringLiteral("apply-notice"), showNotice},
     };
 }
 

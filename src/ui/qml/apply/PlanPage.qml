@@ -28,6 +28,8 @@ Column {
             glyph: "warning"
             color: Style.warning
             text: modelData
+            actionText: page.apply.isRefusedByMac ? qsTr("Open Privacy Settings") : ""
+            onAction: page.apply.openPrivacySettings()
         }
     }
     Remark {
@@ -42,6 +44,7 @@ Column {
     Column {
         width: parent.width
         spacing: 6
+        visible: !page.apply.isRefusedByMac
 
         Repeater {
             model: page.apply.summary
