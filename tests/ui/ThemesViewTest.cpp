@@ -279,6 +279,7 @@ TEST_F(ThemesViewTest, TakesBackAThemeThatItHandedOut) {
     startWithTheme();
     const HostPath file = folder.path() / page().exportName(named(ocean.themeID)).toStdString();
     page().exportTheme(named(ocean.themeID), QUrl::fromLocalFile(named(file.string())));
+    ASSERT_TRUE(waitFor([&] { return bool(readHostFile(file)); }));
     ASSERT_TRUE(finishes());
     EXPECT_FALSE(page().work()->isFailure()) << page().work()->outcome().toStdString();
     dropOn("themeLibrary", {file});
