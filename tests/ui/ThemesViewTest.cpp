@@ -350,6 +350,13 @@ TEST_F(ThemesViewTest, AsksForFilesByDialogs) {
 TEST_F(ThemesViewTest, TakesPicturesByTheTileOrByTheirNames) {
     startWithTheme();
     openTheme("Safari");
+    QMimeData held;
+    held.setUrls({QUrl::fromLocalFile(named(write("Mail.png", Qt::magenta).string()))});
+    ASSERT_TRUE(dragOnto(find("icon Safari"), held));
+    EXPECT_TRUE(waitFor([] { return find("themeDropPreview") != nullptr; }));
+    dragAway(find("icon Safari"));
+    EXPECT_EQ(find("themeDropPreview"), nullptr);
+    EXPECT_NE(iconColour(kSafari), QColor(Qt::magenta));
     dropOn("icon Safari", {write("Mail.png", Qt::magenta)});
     ASSERT_TRUE(finishes());
     EXPECT_EQ(iconColour(kSafari), QColor(Qt::magenta));

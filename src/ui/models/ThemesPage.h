@@ -2,6 +2,7 @@
 
 #include "ui/models/FolderImportModel.h"
 #include "ui/models/OneTheme.h"
+#include "ui/models/PictureDrop.h"
 #include "ui/models/ThemeLook.h"
 #include "ui/models/ThemeShelf.h"
 #include "ui/models/ThemeWork.h"
@@ -28,6 +29,7 @@ class ThemesPage : public QObject {
     Q_PROPERTY(tavrik::OneTheme* theme READ theme CONSTANT)
     Q_PROPERTY(tavrik::FolderImportModel* folderImport READ folderImport CONSTANT)
     Q_PROPERTY(tavrik::ThemeWork* work READ work CONSTANT)
+    Q_PROPERTY(tavrik::PictureDrop* dragged READ dragged CONSTANT) ///< over an icon
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
     Q_PROPERTY(tavrik::ThemeLook* look READ look CONSTANT)
     Q_PROPERTY(bool isCreating READ isCreating WRITE setCreating NOTIFY changed) ///< the sheet is shown
@@ -45,6 +47,8 @@ public:
     FolderImportModel* folderImport() { return &m_folderImport; }
 
     ThemeWork* work() { return &m_work; }
+
+    PictureDrop* dragged() { return &m_dragged; }
 
     bool isLoaded() const { return m_shelf.isLoaded(); }
 
@@ -106,6 +110,7 @@ private:
     ThemesModel m_library;
     OneTheme m_theme;
     FolderImportModel m_folderImport;
+    PictureDrop m_dragged;
     bool m_isCreating = false;
     QString m_createProblem;
     std::optional<Export> m_waiting; ///< for an answer about the file that is there

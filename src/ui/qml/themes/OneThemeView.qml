@@ -72,6 +72,7 @@ Item {
             delegate: ThemeIconTile {
                 theme: view.theme
                 images: view.images
+                drop: view.page.dragged
                 showsFileNames: view.page.look.showsFileNames
                 isBusy: view.page.work.isRunning
                 width: grid.cellWidth
@@ -134,8 +135,9 @@ Item {
         DropFrame {
             anchors.fill: parent
             anchors.margins: 4
-            visible: (parent as DropArea).containsDrag
+            visible: (parent as DropArea).containsDrag || text
             color: "transparent"
+            text: view.page.dragged.refusal
         }
     }
 }

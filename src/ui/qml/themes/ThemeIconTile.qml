@@ -8,6 +8,7 @@ Item {
 
     required property OneTheme theme
     required property Images images
+    required property PictureDrop drop
     required property string bundleID
     required property string name
     required property string appPath
@@ -52,7 +53,7 @@ Item {
         radius: Style.corner
         color: pointer.pressed ? Style.pressed : pointer.containsMouse && tile.canToggle ? Style.hover : "transparent"
         border.color: Style.accent
-        border.width: tile.isCurrent || drops.containsDrag ? 2 : 0
+        border.width: tile.isCurrent || drops.isTarget ? 2 : 0
     }
     MouseArea {
         id: pointer
@@ -73,9 +74,18 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 12
         size: 64
+        visible: !preview.visible
         opacity: tile.iconPath === "" ? 0.28 : tile.isPale ? 0.4 : 1
         source: tile.iconPath ? tile.images.ofFile(tile.iconPath, tile.images.revision)
                               : tile.images.ofApp(tile.appPath, tile.images.revision)
+    }
+    DroppedPicture {
+        id: preview
+
+        objectName: "themeDropPreview"
+        anchors.fill: icon
+        visible: drops.isTarget && tile.drop.hasPicture
+        drop: drops.isTarget ? tile.drop : null
     }
     Rectangle {
         anchors.right: icon.right
@@ -160,15 +170,16 @@ Item {
         glyphSize: 14
         onClicked: tile.toggleRemoval()
     }
-    DropArea {
+    PictureDropArea {
         id: drops
 
         anchors.fill: parent
         enabled: !tile.isBusy && !tile.theme.isToBeRemoved
-        keys: ["text/uri-list"]
-        onDropped: drop => {
-            tile.theme.drop(drop.urls, tile.bundleID)
-            drop.accept()
+        drop: tile.drop
+        takesFilesAlone: true
+        onFilesDropped: files => {
+            tile.drop.forget()
+            tile.theme.drop(files, tile.bundleID)
         }
     }
 }

@@ -1,12 +1,13 @@
 import QtQuick
 import Tavrik
 
-// Takes pictures that are dragged onto a row, and shows what they would become before they are let go.
+// Takes pictures that are dragged onto it, and has what they would become looked up before they are let go.
 DropArea {
     id: area
 
     required property PictureDrop drop
     property bool isRefused: false
+    property bool takesFilesAlone: false
     readonly property bool isTarget: containsDrag
     readonly property bool showsPicture: containsDrag && !isRefused
     property bool hasFiles: false
@@ -15,7 +16,7 @@ DropArea {
     signal dataDropped(var data)
 
     onEntered: drag => {
-        format = drop.pictureFormat(drag.formats)
+        format = takesFilesAlone ? "" : drop.pictureFormat(drag.formats)
         hasFiles = drag.hasUrls
         if (!hasFiles && !format) {
             drag.accepted = false
