@@ -118,7 +118,7 @@ TEST_F(Removal, LeadsBackToTheBeginningFromEveryHistory) {
         {"a killed creation",
          [&] {
              add(kAtlas, 5);
-             EXPECT_TRUE(isKilledBefore(*this, 30, [this] { program->apply.applyChanges(); }));
+             EXPECT_TRUE(isKilledBefore(*this, 40, [this] { program->apply.applyChanges(); }));
              start();
              pending().clearAllPendingChanges();
          }},
