@@ -11,12 +11,13 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <functional>
 
 namespace tavrik::macos {
 
 namespace {
 
-constexpr int kLargestSide = 1024; // pixels
+constexpr int kLargestSide = 1024;          // pixels
 constexpr const char* kIconFile = "Icon\r"; // in a folder with an icon of its own
 
 int sideOf(NSImage* icon) {
@@ -67,9 +68,18 @@ bool isAlive(NSRunningApplication* application) {
     return process > 0 && (::kill(process, 0) == 0 || errno == EPERM);
 }
 
-NSArray<NSRunningApplication*>* instancesOf(const std::string& bundleID) {
-    NSString* const identifier = toNSString(bundleID);
-    return identifier ? [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier] : @[];
+/// Whether every running instance could be asked, or has ended meanwhile.
+bool askInstances(const std::string& bundleID, const std::function<BOOL(NSRunningApplication*)>& ask) {
+    @autoreleasepool {
+        bool wereAsked = true;
+        NSString* const identifier = toNSString(bundleID);
+        if (!identifier)
+            return wereAsked;
+        for (NSRunningApplication* application in
+             [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier])
+            wereAsked = (ask(application) || !isAlive(application)) && wereAsked;
+        return wereAsked;
+    }
 }
 
 } // namespace
@@ -114,21 +124,12 @@ std::vector<RunningApplication> MacosWorkspace::runningApplications() const {
 }
 
 bool MacosWorkspace::askToQuit(const std::string& bundleID) {
-    @autoreleasepool {
-        bool wereAsked = true;
-        for (NSRunningApplication* application in instancesOf(bundleID))
-            wereAsked = ([application terminate] || !isAlive(application)) && wereAsked;
-        return wereAsked;
-    }
+    return askInstances(bundleID, [](NSRunningApplication* application) { return [application terminate]; });
 }
 
 bool MacosWorkspace::forceTerminate(const std::string& bundleID) {
-    @autoreleasepool {
-        bool wereAsked = true;
-        for (NSRunningApplication* application in instancesOf(bundleID))
-            wereAsked = ([application forceTerminate] || !isAlive(application)) && wereAsked;
-        return wereAsked;
-    }
+    return askInstances(bundleID,
+                        [](NSRunningApplication* application) { return [application forceTerminate]; });
 }
 
 } // namespace tavrik::macos
