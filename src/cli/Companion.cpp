@@ -60,7 +60,7 @@ std::variant<ApplicationInfo, ExitCode> Companion::findRestylable(const std::str
     Result<ApplicationInfo> app = findApp(m_managers->apps.loadApplications(), bundleID);
     if (!app)
         return fail(app.error().description);
-    if (const std::string why = refusal(*app, m_managers->unsupported.contains(bundleID)); !why.empty())
+    if (const std::string why = refusalOf(*app, m_managers->unsupported.contains(bundleID)); !why.empty())
         return refuse(why);
     return std::move(*app);
 }

@@ -165,7 +165,7 @@ ExitCode ThemeApplyCommand::run(Companion& companion) {
         return std::get<ExitCode>(found);
     const ThemeApplication answer = companion.managers().themes.applyTheme(*applied);
     for (const ApplicationInfo& app : answer.leftAlone)
-        companion.say(refusal(app, companion.managers().unsupported.contains(app.bundleID)));
+        companion.say(refusalOf(app, companion.managers().unsupported.contains(app.bundleID)));
     for (const std::string& sentence : answer.failed)
         companion.complain(sentence);
     if (answer.applied > 0) {

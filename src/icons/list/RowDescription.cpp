@@ -30,7 +30,7 @@ ApplicationRow describedRow(const ApplicationInfo& app, const CatalogueReading& 
     row.plainName = plainNameOf(row.app, fonts);
     row.foldedName = fonts.folded(row.plainName);
     row.foldedBundleID = fonts.folded(row.app.bundleID);
-    row.refusal = refusal(row.app, unsupported.contains(row.app.bundleID));
+    row.refusal = refusalOf(row.app, unsupported.contains(row.app.bundleID));
     row.isInDock = reading.dockApps.contains(row.app.bundleID);
     if (const auto icons = reading.themeIcons.find(row.app.bundleID); icons != reading.themeIcons.end())
         row.app.themeIcons = icons->second;

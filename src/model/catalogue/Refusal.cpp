@@ -4,7 +4,7 @@
 
 namespace tavrik {
 
-std::string refusal(const ApplicationInfo& app, bool isListedUnsupported) {
+std::string refusalOf(const ApplicationInfo& app, bool isListedUnsupported) {
     if (app.isIOSApp) {
         return app.name +
                " is an iOS app: the system draws its icon from inside the bundle, and a wrapper cannot change "

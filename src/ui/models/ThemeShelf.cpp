@@ -56,7 +56,7 @@ void ThemeShelf::reload() {
 std::vector<ThemeIconRow> ThemeShelf::rowsOf(const ThemeFacts& theme) const {
     return iconRows(theme, m_reading.apps, m_with.managers.pendingChanges.staged(),
                     [this](const ApplicationInfo& app) {
-                        return refusal(app, m_with.managers.unsupported.contains(app.bundleID));
+                        return refusalOf(app, m_with.managers.unsupported.contains(app.bundleID));
                     });
 }
 

@@ -37,7 +37,7 @@ void stageIcons(Program& program, std::size_t count) {
     for (const ApplicationInfo& app : apps) {
         if (icons.size() == count)
             break;
-        if (!refusal(app, managers.unsupported.contains(app.bundleID)).empty())
+        if (!refusalOf(app, managers.unsupported.contains(app.bundleID)).empty())
             continue;
         const auto hue = static_cast<int>(icons.size() * 37 % 360);
         if (const auto icon = managers.iconStore.savePendingIcon(disc(hue), app.bundleID))
