@@ -66,7 +66,7 @@ protected:
         for (const FontReplacer::FontMap& style : managers.fonts.fontReplacer().allFontMaps())
             m_names << toQString(style.name);
         for (const char* const folder : {"Utilities", "Studio", "Under Way", "Downloads", "Tavrik", "Windlass",
-                                         "Ferrule copy", "Zeppelin", "Candy", "Hello, Launchpad", "qt_temp"})
+                                         "Ferrule copy", "Zeppelin", "Candy", "Hello, Launchpad"})
             m_names << QString::fromLatin1(folder);
         for (int month = 1; month <= 12; ++month)
             m_names << QLocale().monthName(month, QLocale::ShortFormat);

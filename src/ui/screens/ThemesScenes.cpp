@@ -3,6 +3,7 @@
 #include "ui/screens/Scene.h"
 #include "ui/screens/Stagehand.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -99,12 +100,14 @@ QQuickWindow* refusedName(Program& program) {
 }
 
 QQuickWindow* review(Program& program) {
-    static const QTemporaryDir folder; // read while the picture is taken
+    static const QTemporaryDir place; // read while the picture is taken
+    const QString folder = place.filePath(QStringLiteral("Candy"));
+    QDir().mkpath(folder);
     QQuickWindow* const window = filledLibrary(program);
     ThemesPage& page = pageOf(program);
     page.setCreating(false);
-    writeSamplePictures(HostPath(folder.path().toStdString()));
-    page.folderImport()->begin(QUrl::fromLocalFile(folder.path()));
+    writeSamplePictures(HostPath(folder.toStdString()));
+    page.folderImport()->begin(QUrl::fromLocalFile(folder));
     Stagehand::waitFor([&] { return page.folderImport()->phase() == FolderImportModel::Review; });
     page.folderImport()->setThemeName(QStringLiteral("Candy"));
     return window;
