@@ -11,7 +11,7 @@ function(tavrik_compile_options target)
     if(TAVRIK_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${TAVRIK_SANITIZE} -fno-omit-frame-pointer)
         # What the sanitizers add to the code, gcc's flow analysis takes for ways around an initialization.
-        target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
         target_link_options(${target} PRIVATE -fsanitize=${TAVRIK_SANITIZE})
     endif()
     if(TAVRIK_FUZZ)
