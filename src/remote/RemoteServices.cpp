@@ -73,7 +73,7 @@ void RemoteServices::ready() {
     for (const auto& wish : std::exchange(m_whenReady, {}))
         wish();
     showTexts();
-    if (m_updates.isAsked)
+    if (m_isAsked)
         checkForUpdates();
     else if (m_choice.allows(RemoteKind::updates) && m_updateService.answer())
         showUpdates();
@@ -96,8 +96,8 @@ void RemoteServices::fetchDue() {
 }
 
 void RemoteServices::checkForUpdates() {
-    clearUpdates();
-    m_updates.isAsked = true;
+    m_isAsked = true;
+    m_updates = {};
     m_updates.stage = UpdateStatus::Stage::checking;
     if (m_choice.isOffForGood)
         failUpdates(RemoteFailure::switchedOff);
@@ -106,16 +106,9 @@ void RemoteServices::checkForUpdates() {
     changed();
 }
 
-/// Back to the beginning, but for who asked.
-void RemoteServices::clearUpdates() {
-    m_updates.stage = UpdateStatus::Stage::unknown;
-    m_updates.isOffered = false;
-    m_updates.finding.verdict = UpdateVerdict::newest;
-    m_updates.finding.release.reset();
-    m_updates.failure.reset();
-}
-
 void RemoteServices::failUpdates(RemoteFailure failure) {
+    m_isAsked = false;
+    m_updates = {};
     m_updates.stage = UpdateStatus::Stage::failed;
     m_updates.failure = failure;
 }
@@ -182,8 +175,7 @@ void RemoteServices::showTexts() {
 /// What the last answer has for this version and this system. A failure is told to whoever asked; else what is
 /// known stays.
 void RemoteServices::showUpdates() {
-    const bool isAsked = m_updates.isAsked;
-    clearUpdates();
+    const bool isAsked = std::exchange(m_isAsked, false);
     const TrustedAnswer* const answer = m_updateService.answer();
     const auto current = programVersion(m_options.version);
     const auto& failure = m_updateService.failure();
@@ -191,12 +183,15 @@ void RemoteServices::showUpdates() {
         failUpdates(failure.value_or(RemoteFailure::notUnderstood));
         return;
     }
+    m_updates = {};
     m_updates.stage = UpdateStatus::Stage::found;
     m_updates.finding = findUpdate(updateFeed(answer->payload).value_or(std::vector<Release>()), *current,
-                                   m_ports.machine.systemVersion(), isAsked ? std::nullopt : m_skipped);
-    const auto& release = m_updates.finding.release;
-    m_updates.isOffered = m_updates.finding.verdict == UpdateVerdict::available &&
-                          (isAsked || !m_putOff || release->version > *m_putOff);
+                                   m_ports.machine.systemVersion());
+    const auto isAbove = [&finding = m_updates.finding](const std::optional<ProgramVersion>& version) {
+        return !version || finding.release->version > *version;
+    };
+    m_updates.isOffered =
+        m_updates.finding.verdict == UpdateVerdict::available && isAbove(m_skipped) && isAbove(m_putOff);
 }
 
 ServiceReport RemoteServices::report(RemoteKind kind) const {
@@ -222,11 +217,21 @@ void RemoteServices::skipVersion() {
 }
 
 void RemoteServices::dismissUpdate() {
-    if (const auto& release = m_updates.finding.release; m_updates.isOffered && release)
-        m_putOff = release->version;
-    m_updates.isAsked = false;
-    m_updates.isOffered = false;
+    if (m_updates.stage == UpdateStatus::Stage::checking)
+        stopWaiting();
+    else if (std::exchange(m_updates.isOffered, false))
+        m_putOff = m_updates.finding.release->version;
     changed();
+}
+
+/// Back to what was known before the person asked.
+void RemoteServices::stopWaiting() {
+    m_isAsked = false;
+    m_updates = {};
+    if (!m_choice.allows(RemoteKind::updates))
+        m_updateService.abort();
+    if (m_updateService.answer())
+        showUpdates();
 }
 
 void RemoteServices::fallSilent() {

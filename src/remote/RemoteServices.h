@@ -33,8 +33,7 @@ struct UpdateStatus {
     };
 
     Stage stage = Stage::unknown;
-    bool isAsked = false;   ///< a person asked for it, who is owed an answer
-    bool isOffered = false; ///< there is a release for this system, and it was not put off in this run
+    bool isOffered = false; ///< there is a release for this system, neither skipped nor put off in this run
     UpdateFinding finding;
     std::optional<RemoteFailure> failure;
 
@@ -109,11 +108,11 @@ public:
 
     ServiceReport report(RemoteKind kind) const;
 
-    /// Never offers the release that `updates` shows, nor an older one, unless the person asks for a check.
+    /// Never offers the release that `updates` shows, nor an older one. It is still what a check finds.
     void skipVersion();
 
-    /// The person has seen the answer to their check, or does not want the offered release now: it is not
-    /// offered again before the next start, unless they ask.
+    /// The person does not want the offered release now: it is not offered again before the next start. Or they
+    /// do not wait for their check any longer, which ends it unless it is allowed without them.
     void dismissUpdate();
 
     /// Ends what is under way, and sends nothing unasked until the next start: what is kept is about to be
@@ -135,8 +134,8 @@ private:
     void apply(const NetworkChoice& choice, std::function<bool(NetworkConsent&)> save);
     void showTexts();
     void showUpdates();
-    void clearUpdates();
     void failUpdates(RemoteFailure failure);
+    void stopWaiting();
     void changed();
 
     Ports m_ports;
@@ -151,6 +150,7 @@ private:
     std::optional<ProgramVersion> m_putOff; ///< for this run
     InterfaceTexts m_texts;
     UpdateStatus m_updates;
+    bool m_isAsked = false; ///< a person waits for what a check finds
     QTimer m_hourly;
     QObject m_context;
     SerialQueue m_queue{"com.tavrik.remote"};

@@ -15,10 +15,10 @@ UpdateVerdict verdictOn(const Release& release, const SystemVersion& system) {
 } // namespace
 
 UpdateFinding findUpdate(const std::vector<Release>& feed, const ProgramVersion& current,
-                         const SystemVersion& system, const std::optional<ProgramVersion>& skipped) {
+                         const SystemVersion& system) {
     UpdateFinding best;
     for (const Release& release : feed) {
-        if (release.version <= current || (skipped && release.version <= *skipped))
+        if (release.version <= current)
             continue;
         const UpdateVerdict verdict = verdictOn(release, system);
         const bool runs = verdict == UpdateVerdict::available;

@@ -22,8 +22,8 @@ struct UpdateFinding {
 };
 
 /// What the feed has for this version on this system: the highest release that runs here, else the highest of
-/// all. Up to and including the skipped version nothing is found.
+/// all.
 UpdateFinding findUpdate(const std::vector<Release>& feed, const ProgramVersion& current,
-                         const SystemVersion& system, const std::optional<ProgramVersion>& skipped);
+                         const SystemVersion& system);
 
 } // namespace tavrik

@@ -270,7 +270,7 @@ TEST_F(Services, CheckForUpdatesWhenAPersonAsksWithoutFurtherConsent) {
     start();
     check();
     EXPECT_EQ(services->updates().stage, Stage::found);
-    EXPECT_TRUE(services->updates().isAsked && services->updates().isOffered);
+    EXPECT_TRUE(services->updates().isOffered);
     EXPECT_EQ(textOf(services->updates().finding.release->version), "2.0");
     pass(48);
     EXPECT_EQ(server.requests.size(), 1u) << "one wish is one request";
@@ -284,6 +284,32 @@ TEST_F(Services, CheckForUpdatesWhenAPersonAsksWithoutFurtherConsent) {
     EXPECT_EQ(services->updates().failure, RemoteFailure::connection);
 }
 
+TEST_F(Services, EndACheckThatNobodyWaitsForAnyLonger) {
+    start();
+    services->checkForUpdates();
+    services->dismissUpdate();
+    settle();
+    EXPECT_TRUE(server.requests.empty());
+    EXPECT_EQ(services->updates().stage, Stage::unknown);
+    services->choose(false, true);
+    settle();
+    services->checkForUpdates();
+    services->dismissUpdate();
+    EXPECT_TRUE(services->updates().isOffered) << "what was known before is not put off with the check";
+    settle();
+    EXPECT_EQ(server.requests.size(), 2u) << "allowed without anybody who waits";
+
+    publish("", "");
+    check();
+    EXPECT_EQ(services->updates().stage, Stage::failed);
+    publish("", kGood.sign(updates(6, "2.1")));
+    pass(1);
+    EXPECT_TRUE(services->updates().isOffered);
+    publish("", "");
+    pass(24);
+    EXPECT_TRUE(services->updates().isOffered) << "nobody asked, so a failure takes nothing away";
+}
+
 TEST_F(Services, OfferAReleaseUntilItIsPutOffOrSkipped) {
     startAllowed();
     EXPECT_TRUE(services->updates().isOffered);
@@ -295,10 +321,12 @@ TEST_F(Services, OfferAReleaseUntilItIsPutOffOrSkipped) {
     services->skipVersion();
     settle();
     start();
-    EXPECT_FALSE(services->updates().isOffered);
-    check();
-    EXPECT_TRUE(services->updates().isOffered) << "whoever asks is told";
-    services->dismissUpdate();
+    for (const bool isAsking : {false, true}) {
+        if (isAsking)
+            check();
+        EXPECT_FALSE(services->updates().isOffered);
+        EXPECT_EQ(services->updates().finding.verdict, UpdateVerdict::available) << "whoever looks is told";
+    }
     publish("", kGood.sign(updates(6, "2.0.1")));
     pass(24);
     EXPECT_TRUE(services->updates().isOffered);
