@@ -54,6 +54,18 @@ TEST_F(WindowTest, ShowsThePlanAppliesAndTellsTheResult) {
     EXPECT_EQ(model().stagedCount(), 0);
 }
 
+TEST_F(WindowTest, ShowsThePlanAgainToWhoClosesItAndAsksAtOnce) {
+    start();
+    program->managers().pendingChanges.setPendingFont("Small Caps");
+    for (int i = 0; i < 2; ++i) {
+        press(window(), Qt::Key_Escape);
+        press(window(), Qt::Key_Return, Qt::ControlModifier);
+        ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("apply-go")) != nullptr; }));
+    }
+    settled(window());
+    EXPECT_NE(find(QStringLiteral("apply-go")), nullptr);
+}
+
 TEST_F(WindowTest, CallsBackWhoLooksElsewhereWhenSomethingLongEnds) {
     start();
     const auto lookElsewhere = [] {
@@ -101,10 +113,10 @@ TEST_F(WindowTest, TellsFromTheStartOnWhatMacOSRefusesAndOpensItsSettings) {
     ASSERT_EQ(model().apply()->obstacles().size(), 1);
     EXPECT_TRUE(model().apply()->obstacles().first().contains(QStringLiteral("> Full Disk Access")));
     EXPECT_FALSE(find(QStringLiteral("apply-go"))->isEnabled());
-    model().apply()->close();
+    ASSERT_TRUE(click(QStringLiteral("apply-cancel")));
 
     ASSERT_TRUE(mac.files.remove(practice::kRefusedPaths));
-    model().privacy()->look();
+    ASSERT_TRUE(click(QStringLiteral("privacy-again")));
     EXPECT_TRUE(waitFor([&] { return model().privacy()->text().isEmpty(); }));
 }
 

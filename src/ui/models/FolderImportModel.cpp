@@ -228,7 +228,7 @@ void FolderImportModel::take() {
 }
 
 void FolderImportModel::cancel() {
-    if (m_phase != Writing)
+    if (m_phase != Writing && m_phase != Closed)
         setPhase(Closed);
 }
 

@@ -34,6 +34,8 @@ void ThemesPage::update() {
 }
 
 void ThemesPage::setCreating(bool isCreating) {
+    if (isCreating == m_isCreating)
+        return;
     m_isCreating = isCreating;
     m_createProblem.clear();
     Q_EMIT changed();

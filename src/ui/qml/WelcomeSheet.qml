@@ -15,7 +15,8 @@ Sheet {
     contentHeight: column.implicitHeight
     onClosed: {
         isAsked = false
-        model.endFirstStart()
+        if (!model.isBlocked) // then it comes again
+            model.endFirstStart()
     }
 
     Column {

@@ -1,5 +1,7 @@
 #include "ui/screens/Stagehand.h"
 
+#include "platform/Result.h"
+
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
@@ -8,6 +10,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QtQuickTest/quicktest.h>
 
 namespace tavrik {
 
@@ -50,6 +53,8 @@ bool Stagehand::click(const QString& name) {
 bool Stagehand::click(QQuickItem* item) {
     if (!item->isEnabled())
         return false;
+    // What is laid out between the press and the release moves away from the pointer.
+    ignoreFailure(QQuickTest::qWaitForPolish(item->window()));
     QTest::mouseClick(item->window(), Qt::LeftButton, {}, middleOf(item).toPoint());
     return true;
 }

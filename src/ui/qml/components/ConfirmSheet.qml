@@ -107,8 +107,8 @@ Sheet {
                 text: sheet.confirmText
                 kind: sheet.destroys ? PushButton.Danger : PushButton.Default
                 onClicked: {
-                    sheet.close()
                     sheet.confirmed()
+                    sheet.close()
                 }
             }
         }

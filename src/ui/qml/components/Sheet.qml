@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tavrik
 
-// A sheet over the window. Esc closes it, unless it must be answered.
+// A sheet over the window. Esc closes it, unless it must be answered. It leaves at once: while it faded it would still
+// take the clicks that are meant for the window, and an answer to its leaving would come late.
 T.Popup {
     id: sheet
 
@@ -30,8 +31,5 @@ T.Popup {
     }
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Style.quick }
-    }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Style.quick }
     }
 }

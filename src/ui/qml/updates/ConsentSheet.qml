@@ -15,7 +15,7 @@ Sheet {
     contentWidth: 500
     contentHeight: column.implicitHeight
     onAboutToShow: column.forceActiveFocus()
-    onClosed: page.answerQuestion(false)
+    onClosed: if (page.isQuestionShown) page.answerQuestion(false)
 
     Column {
         id: column
