@@ -14,4 +14,9 @@ class Alerts;
 /// its own; it must outlive the host.
 Result<std::unique_ptr<MacHost>> openHost(Alerts& alerts);
 
+/// Tells Qt where the plugins of the program's own bundle lie, which Qt by itself does not find when the
+/// program was called by a link. Called before the application object is made; nothing where there is no
+/// bundle.
+void findPlugins();
+
 } // namespace tavrik

@@ -16,6 +16,10 @@ public:
     /// Makes sure that the Mac's session runs, so that the Dock indexes and comes back after a restart. A real
     /// Mac's always does. Called before the first change that the Dock is to see; may take a second.
     virtual void startSession() = 0;
+
+    /// Has the system make no tabs of the program's windows; nothing where none does. Main thread, before the
+    /// first window.
+    virtual void disableAutomaticTabbing() {}
 };
 
 } // namespace tavrik

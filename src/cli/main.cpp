@@ -42,6 +42,7 @@ int main(int argc, char** argv) {
     std::string arguments[] = {argv[0], "-platform", "offscreen"};
     char* argumentPointers[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
     int argumentCount = 3;
+    findPlugins();
     QGuiApplication application(argumentCount, argumentPointers);
 
     ExitCode code = ExitCode::failed;

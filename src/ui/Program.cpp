@@ -133,6 +133,10 @@ std::vector<ManagedWindow*> Program::openWindows() {
     return windows;
 }
 
+void Program::disableAutomaticTabbing() {
+    m_host.disableAutomaticTabbing();
+}
+
 void Program::openSettings() {
     if (!m_settings) {
         m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tavrik/qml/settings/SettingsWindow.qml")));

@@ -59,8 +59,7 @@ private:
 
     Program(MacHost& host, WindowAlerts& alerts, RemoteServices::Options remote, SupportFolderLock lock);
 
-    void disableAutomaticTabbing() override {}
-
+    void disableAutomaticTabbing() override;
     std::vector<ManagedWindow*> openWindows() override;
     void openSettings() override;
     void terminate() override;

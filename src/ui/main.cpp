@@ -33,6 +33,7 @@ bool mayRun(MacHost& host, WindowAlerts& alerts) {
 
 int main(int argc, char** argv) {
     declareMainThread();
+    findPlugins();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Tavrik"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TAVRIK_VERSION));

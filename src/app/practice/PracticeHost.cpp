@@ -37,6 +37,10 @@ Result<std::unique_ptr<MacHost>> openHost(Alerts& alerts) {
     return openPracticeMac(practice::defaultRoot(), alerts);
 }
 
+void findPlugins() {
+    // The practice programs lie in no bundle.
+}
+
 HostPath programsFolder() {
     return HostPath(QCoreApplication::applicationDirPath().toStdString());
 }

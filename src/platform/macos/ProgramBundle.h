@@ -11,6 +11,7 @@ namespace tavrik::macos {
 struct ProgramBundle {
     std::string identifier; ///< empty where the program lies in no bundle
     MacPath resources;      ///< the folder; beside the program where it lies in no bundle
+    MacPath plugins;        ///< the folder; empty where the program lies in no bundle
 };
 
 ProgramBundle findProgramBundle();

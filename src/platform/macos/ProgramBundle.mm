@@ -37,8 +37,10 @@ ProgramBundle findProgramBundle() {
                                : nil;
         NSBundle* const bundle = url ? [NSBundle bundleWithURL:url] : nil;
         if (!bundle.bundleIdentifier)
-            return {.identifier = {}, .resources = program.parent()};
-        return {.identifier = toString(bundle.bundleIdentifier), .resources = contents / "Resources"};
+            return {.identifier = {}, .resources = program.parent(), .plugins = {}};
+        return {.identifier = toString(bundle.bundleIdentifier),
+                .resources = contents / "Resources",
+                .plugins = contents / "PlugIns"};
     }
 }
 
