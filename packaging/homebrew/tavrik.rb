@@ -16,9 +16,12 @@ cask "tavrik" do
   uninstall quit: "com.tavrik.Tavrik"
 
   zap trash: [
-    "/private/var/folders/*/*/0/com.apple.dock.launchpad/db/db.pre-restore-backup",
+    "/private/var/folders/*/*/0/com.apple.dock.launchpad/db/db.new",
+    "/private/var/folders/*/*/0/com.apple.dock.launchpad/db/db.pre-restore-backup*",
+    "/private/var/folders/*/*/C/com.tavrik.Tavrik",
     "/private/var/folders/*/*/T/backup_check.db*",
     "/private/var/folders/*/*/T/launchpad_temp.db*",
+    "~/.tavrik-access",
     "~/Applications/.tavrik-access",
     "~/Applications/Tavrik",
     "~/Library/Application Support/.tavrik-access",
@@ -28,9 +31,10 @@ cask "tavrik" do
     "~/Library/HTTPStorages/com.tavrik.Tavrik",
     "~/Library/HTTPStorages/com.tavrik.Tavrik.binarycookies",
     "~/Library/Preferences/.tavrik-access",
-    "~/Library/Preferences/com.apple.dock.backup.plist",
-    "~/Library/Preferences/com.apple.dock.plist.pre-restore-backup",
-    "~/Library/Preferences/com.tavrik.Tavrik.plist",
+    "~/Library/Preferences/com.apple.dock.backup.plist*",
+    "~/Library/Preferences/com.apple.dock.plist.new",
+    "~/Library/Preferences/com.apple.dock.plist.pre-restore-backup*",
+    "~/Library/Preferences/com.tavrik.Tavrik.plist*",
     "~/Library/Saved Application State/com.tavrik.Tavrik.savedState",
   ]
 
