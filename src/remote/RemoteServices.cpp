@@ -75,8 +75,7 @@ void RemoteServices::ready() {
     showTexts();
     if (m_isAsked)
         checkForUpdates();
-    else if (m_choice.allows(RemoteKind::updates) && m_updateService.answer())
-        showUpdates();
+    showKnownUpdates();
     m_hourly.start();
     fetchDue();
     changed();
@@ -163,6 +162,7 @@ void RemoteServices::apply(const NetworkChoice& choice, std::function<bool(Netwo
             failUpdates(RemoteFailure::switchedOff);
     }
     showTexts();
+    showKnownUpdates();
     fetchDue();
     changed();
 }
@@ -192,6 +192,13 @@ void RemoteServices::showUpdates() {
     };
     m_updates.isOffered =
         m_updates.finding.verdict == UpdateVerdict::available && isAbove(m_skipped) && isAbove(m_putOff);
+}
+
+/// What an earlier request was answered, where nothing newer is shown or waited for.
+void RemoteServices::showKnownUpdates() {
+    if (m_updates.stage == UpdateStatus::Stage::unknown && m_choice.allows(RemoteKind::updates) &&
+        m_updateService.answer())
+        showUpdates();
 }
 
 ServiceReport RemoteServices::report(RemoteKind kind) const {

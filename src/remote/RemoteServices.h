@@ -134,6 +134,7 @@ private:
     void apply(const NetworkChoice& choice, std::function<bool(NetworkConsent&)> save);
     void showTexts();
     void showUpdates();
+    void showKnownUpdates();
     void failUpdates(RemoteFailure failure);
     void stopWaiting();
     void changed();

@@ -274,6 +274,12 @@ TEST_F(Services, CheckForUpdatesWhenAPersonAsksWithoutFurtherConsent) {
     EXPECT_EQ(textOf(services->updates().finding.release->version), "2.0");
     pass(48);
     EXPECT_EQ(server.requests.size(), 1u) << "one wish is one request";
+    start();
+    EXPECT_EQ(services->updates().stage, Stage::unknown);
+    services->choose(false, true);
+    EXPECT_TRUE(services->updates().isOffered) << "allowed only now, and known already";
+    settle();
+    EXPECT_EQ(server.requests.size(), 2u) << "two days have gone by";
 
     publish("", kGood.sign(updates(6, "1.0")));
     check();
