@@ -28,9 +28,9 @@ std::string_view trimmed(std::string_view text) {
     return end == text.npos ? std::string_view() : text.substr(0, end + 1);
 }
 
-/// Digits alone, at most eight of them: what is larger is refused anyway.
+/// Digits alone, at most fifteen of them, which a size holds to any of the bases here.
 std::optional<std::size_t> number(std::string_view text, std::size_t base) {
-    constexpr std::size_t mostDigits = 8;
+    constexpr std::size_t mostDigits = 15;
     constexpr std::string_view digits = "0123456789abcdef";
     if (text.empty() || text.size() > mostDigits)
         return std::nullopt;

@@ -74,7 +74,8 @@ TEST(HttpAnswerReader, ReadsAnAnswerWhateverPiecesItComesIn) {
         {chunked("4\r\nbodyxx"), "refused"},
         {chunked(std::string(300, '0')), "refused"},
         {chunked("ffffff\r\n"), "too large"},
-        {chunked("123456789\r\n"), "refused"},
+        {chunked("123456789abcdef\r\n"), "too large"},
+        {chunked("0000000000000004\r\nbody"), "refused"},
         {"HTTP/1.1 200 OK\r\n\r\nbody", "refused"},
         {"HTTP/1.1 200 OK\r\nContent-Length: 4\r\nContent-Length: 5\r\n\r\nbody", "refused"},
         {"HTTP/1.1 200 OK\r\nContent-Length: 4\r\nTransfer-Encoding: chunked\r\n\r\nbody", "refused"},
@@ -87,6 +88,7 @@ TEST(HttpAnswerReader, ReadsAnAnswerWhateverPiecesItComesIn) {
         {"\r\n\r\n", "refused"},
         {httpAnswer("200 OK", std::string(kLimit, 'x')), "too large"},
         {"HTTP/1.1 200 OK\r\nContent-Length: 20001\r\n\r\n", "too large"},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 1000000000\r\n\r\n", "too large"},
         {"HTTP/1.1 200 OK\r\nX: " + std::string(kLimit, 'x'), "too large"},
         {chunked("4\r\nbody\r\n0\r\n" + std::string(kLimit, '\n')), "refused"}};
     for (const auto& [answer, expected] : cases) {
