@@ -163,10 +163,13 @@ TEST_F(PublishTool, RefusesWithTheReasonAndLeavesWhatStandsThere) {
              Case{"texts", R"({"texts": {}, "links": {}, "serial": 9})", "written by this tool"},
              Case{"texts", kTexts, "has the serial 7", {"--serial", "7"}},
              Case{"texts", kTexts, "one day", {"--days", "0"}},
+             Case{"texts", kTexts, "one day", {"--days", "99999999"}},
+             Case{"texts", std::string(100'000, '['), "no JSON"},
+             Case{"texts", R"({"texts": {"about.summary": "\ud800"}, "links": {}})", "half a character"},
              Case{"feed", R"({"releases": [{"version": "new", "notes": "", "size": 1, "link": ""}]})",
                   "Release 1"},
              Case{"feed", R"({"releases": [{"version": NaN}]})", "no number"},
-             Case{"feed", "{\"releases\": \"" + std::string(300'000, 'a') + "\"}", "larger than"},
+             Case{"feed", "{\"releases\": \"" + std::string(300'000, 'a') + "\"}", "/in is larger than"},
          }) {
         const Told told = sign(each.kind, each.content, each.more);
         EXPECT_EQ(told.status, 1) << each.content.substr(0, 100);
