@@ -25,10 +25,10 @@ class UpdatesPage : public QObject {
     Q_PROPERTY(bool isOff READ isOff WRITE setIsOff NOTIFY changed)
     Q_PROPERTY(bool isChecking READ isChecking NOTIFY changed)
     Q_PROPERTY(QString addresses READ addresses CONSTANT) ///< of the services
-    Q_PROPERTY(
-        QString found READ found NOTIFY changed) ///< whether there is a newer version, as far as is known
-    Q_PROPERTY(
-        QString updatesRemark READ updatesRemark NOTIFY changed) ///< when it was asked last, and the outcome
+    /// Whether there is a newer version, as far as is known.
+    Q_PROPERTY(QString found READ found NOTIFY changed)
+    /// When it was asked last, and the outcome.
+    Q_PROPERTY(QString updatesRemark READ updatesRemark NOTIFY changed)
     Q_PROPERTY(QString textsRemark READ textsRemark NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed) ///< something could not be saved, in a sentence
 

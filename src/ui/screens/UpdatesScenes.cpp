@@ -17,14 +17,19 @@ namespace tavrik {
 
 namespace {
 
-const QString kNotes = QStringLiteral(
-    "Themes\n\u2022 Pictures of a folder are matched with apps in half the time.\n\u2022 A theme can be "
-    "exported together with its previews.\n\nFonts\n\u2022 Four more alphabets, two of them with small "
-    "letters.\n\u2022 Names in Launchpad folders are no longer cut where a letter takes two "
-    "places.\n\nBackups\n\u2022 The drawing of a backup shows folders with what is in them.\n\u2022 A restore "
-    "tells beforehand which apps have come or gone.\n\nMended\n\u2022 The Dock kept an old tile when an app "
-    "was "
-    "renamed during an apply.\n\u2022 The window remembers where it was on a second screen.");
+const QString kNotes =
+    QStringLiteral("Themes\n"
+                   "\u2022 Pictures of a folder are matched with apps in half the time.\n"
+                   "\u2022 A theme can be exported together with its previews.\n\n"
+                   "Fonts\n"
+                   "\u2022 Four more alphabets, two of them with small letters.\n"
+                   "\u2022 Names in Launchpad folders are no longer cut where a letter takes two places.\n\n"
+                   "Backups\n"
+                   "\u2022 The drawing of a backup shows folders with what is in them.\n"
+                   "\u2022 A restore tells beforehand which apps have come or gone.\n\n"
+                   "Mended\n"
+                   "\u2022 The Dock kept an old tile when an app was renamed during an apply.\n"
+                   "\u2022 The window remembers where it was on a second screen.");
 
 QJsonObject release(const char* minimum) {
     return {{QStringLiteral("version"), QStringLiteral("1.4.2")},
