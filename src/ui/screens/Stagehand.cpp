@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -16,8 +17,16 @@ namespace tavrik {
 
 namespace {
 
-QPointF middleOf(const QQuickItem* item) {
-    return item->mapToScene({item->width() / 2, item->height() / 2});
+/// Waits until the window is laid out, for only then every item stands where a person sees it: what moved
+/// between a press and its release was not clicked. Null when the item went away meanwhile.
+QPointer<QQuickItem> laidOut(QQuickItem* item) {
+    const QPointer<QQuickItem> held = item;
+    ignoreFailure(QQuickTest::qWaitForPolish(item->window()));
+    return held;
+}
+
+QPoint middleOf(const QQuickItem* item) {
+    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
 }
 
 } // namespace
@@ -51,11 +60,10 @@ bool Stagehand::click(const QString& name) {
 }
 
 bool Stagehand::click(QQuickItem* item) {
-    if (!item->isEnabled())
+    const auto target = laidOut(item);
+    if (!target || !target->isEnabled())
         return false;
-    // What is laid out between the press and the release moves away from the pointer.
-    ignoreFailure(QQuickTest::qWaitForPolish(item->window()));
-    QTest::mouseClick(item->window(), Qt::LeftButton, {}, middleOf(item).toPoint());
+    QTest::mouseClick(target->window(), Qt::LeftButton, {}, middleOf(target));
     return true;
 }
 
@@ -69,7 +77,8 @@ void Stagehand::press(QQuickWindow* window, Qt::Key key, Qt::KeyboardModifiers m
 }
 
 void Stagehand::hover(QQuickItem* item) {
-    QTest::mouseMove(item->window(), middleOf(item).toPoint());
+    if (const auto target = laidOut(item))
+        QTest::mouseMove(target->window(), middleOf(target));
 }
 
 void Stagehand::pointAway(QQuickWindow* window) {
@@ -77,11 +86,15 @@ void Stagehand::pointAway(QQuickWindow* window) {
 }
 
 bool Stagehand::dragOnto(QQuickItem* item, const QMimeData& data) {
-    const QPoint middle = middleOf(item).toPoint();
+    const auto target = laidOut(item);
+    if (!target)
+        return false;
+    QQuickWindow* const window = target->window();
+    const QPoint middle = middleOf(target);
     QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(item->window(), &enter);
+    QCoreApplication::sendEvent(window, &enter);
     QDragMoveEvent move(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(item->window(), &move);
+    QCoreApplication::sendEvent(window, &move);
     return enter.isAccepted() && move.isAccepted();
 }
 
