@@ -109,7 +109,8 @@ TEST_F(Packaging, LeavesNothingBehindWhenSomethingIsMissing) {
 TEST_F(Packaging, DeploysTheCompanionsPlatformAndRefusesALibraryThatIsNotInside) {
     tool("qmake", "dirname \"$0\"");
     tool("macdeployqt",
-         "cd $1/Contents/PlugIns && mkdir imageformats && cd imageformats && "
+         "cd $1/Contents/PlugIns && mkdir imageformats tls && touch tls/libqopensslbackend.dylib && "
+         "cd imageformats && "
          "touch libqicns.dylib libqsvg.dylib libqtiff.dylib libqwebp.dylib libqjpeg.dylib libqgif.dylib");
     tool("otool", "echo $2:; case $1$2 in -L*tavrikctl) cat $(dirname $0)/needed; esac");
     tool("plutil", "echo 11.0");
