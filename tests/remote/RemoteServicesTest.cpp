@@ -221,7 +221,7 @@ TEST_F(Services, BelieveNeitherTheirCacheNorAnExpiredAnswer) {
         EXPECT_EQ(summary(), kBuiltIn);
     }
     EXPECT_EQ(server.requests.size(), 2u) << "what cannot be used is asked for again, and then waited for";
-    setBetweenStarts("UIStringsCache", *kept);
+    setBetweenStarts("UIStringsCache", kept);
     start();
     EXPECT_EQ(summary(), "New.");
     mac.clock.sleep(24h * 100);
