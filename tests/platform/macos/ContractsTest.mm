@@ -107,6 +107,29 @@ TEST(MacosMac, FindsWhatTheProgramWorksOn) {
                 testing::Contains(testing::Field(&RunningApplication::bundleID, "com.apple.dock")));
 }
 
+TEST(MacosMac, ReadsTheDocksPreferences) {
+    MacosAdapter adapter;
+    const auto content = adapter.mac().files.read(dockPreferencesPath(adapter.mac().volume.home()));
+    ASSERT_TRUE(content) << content.error().description;
+    const auto list = plist::parse(*content);
+    ASSERT_TRUE(list) << list.error().description;
+    EXPECT_NE(list->find<plist::Array>("persistent-apps"), nullptr);
+}
+
+TEST(MacosMac, FindsABundleThatWasRenamed) {
+    MacosAdapter adapter;
+    const Mac& mac = adapter.mac();
+    const MacPath folder = *mac.files.resolveLinks(MacPath(mac.volume.temporaryFolder())) /
+                           ("tavrik-renamed-" + std::to_string(::getpid()));
+    ASSERT_TRUE(mac.files.createFolder(folder / "Old.app"));
+    const auto bookmark = mac.bookmarks.make(folder / "Old.app");
+    ASSERT_TRUE(bookmark) << bookmark.error().description;
+    ASSERT_TRUE(mac.files.move(folder / "Old.app", folder / "New.app"));
+    const auto found = mac.bookmarks.resolve(*bookmark);
+    EXPECT_EQ(found ? *mac.files.resolveLinks(*found) : MacPath(found.error().description), folder / "New.app");
+    EXPECT_TRUE(mac.files.remove(folder));
+}
+
 TEST(MacosMac, DrawsTheIconsOfApplicationsAtFullSize) {
     MacosAdapter adapter;
     const QImage icon = adapter.mac().workspace.icon(MacPath("/System/Applications/Calculator.app"));

@@ -152,6 +152,7 @@ TYPED_TEST_P(MacContract, ACustomIconIsShownUntilItIsCleared) {
         picture.fill(colour);
         ASSERT_TRUE(workspace.setIcon(bundle, picture));
         EXPECT_TRUE(this->showsSoon(bundle, colour));
+        EXPECT_THAT(*this->mac.files.list(bundle), testing::Contains("Icon\r"));
     }
     EXPECT_TRUE(workspace.clearIcon(bundle));
     EXPECT_TRUE(this->showsSoon(bundle, before));
