@@ -8,6 +8,10 @@ function(tavrik_compile_options target)
         target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
     endif()
     target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)
+    # Newer versions of Qt warn of calls whose successors the oldest that we build with does not have.
+    if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+        target_compile_definitions(${target} PRIVATE QT_WARN_DEPRECATED_UP_TO=0x060400)
+    endif()
     if(TAVRIK_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${TAVRIK_SANITIZE} -fno-omit-frame-pointer)
         # What the sanitizers add to the code, gcc's flow analysis takes for ways around an initialization.
