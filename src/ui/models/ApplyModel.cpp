@@ -163,12 +163,13 @@ void ApplyModel::show(const Planned& planned) {
                                      planned.preview.plan.removed.size());
     m_obstacles = inTheirLanguage(planned.preview.obstacles);
     m_refusedBy = planned.preview.refusedBy;
-    m_runningApps.clear();
+    QStringList running;
     m_runningIDs.clear();
     for (const ApplicationInfo& app : planned.preview.runningApps) {
-        m_runningApps.append(toQString(app.name));
+        running.append(toQString(app.name));
         m_runningIDs.push_back(app.bundleID);
     }
+    m_runningApps = running.join(QStringLiteral(", "));
     setStage(Stage::Plan);
 }
 

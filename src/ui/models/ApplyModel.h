@@ -30,7 +30,7 @@ class ApplyModel : public QObject {
     Q_PROPERTY(QStringList obstacles READ obstacles NOTIFY changed)
     /// macOS refuses what an apply needs, and the person can allow it.
     Q_PROPERTY(bool isRefusedByMac READ isRefusedByMac NOTIFY changed)
-    Q_PROPERTY(QStringList runningApps READ runningApps NOTIFY changed)
+    Q_PROPERTY(QString runningApps READ runningApps NOTIFY changed) ///< their names, or empty
 
     /// Of what runs: an apply, or something else that owns the interface. A total of 0 is not known.
     Q_PROPERTY(bool isApplying READ isApplying NOTIFY changed)
@@ -59,7 +59,7 @@ public:
 
     bool isRefusedByMac() const { return m_refusedBy.has_value(); }
 
-    QStringList runningApps() const { return m_runningApps; }
+    QString runningApps() const { return m_runningApps; }
 
     bool isApplying() const { return m_isApplying; }
 
@@ -104,7 +104,7 @@ private:
     QVariantList m_details;
     QStringList m_obstacles;
     std::optional<PrivacyPane> m_refusedBy;
-    QStringList m_runningApps;
+    QString m_runningApps;
     std::vector<std::string> m_runningIDs;
     int m_plannedApps = 0; ///< that look different afterwards
     bool m_isClean = true;

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QQmlListProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -18,7 +19,7 @@ class MenuColumn : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
     Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QList<QObject*> actions READ lines CONSTANT)
+    Q_PROPERTY(QQmlListProperty<tavrik::MenuAction> actions READ lines CONSTANT)
 
 public:
     MenuColumn(QString title, QObject* parent) : QObject(parent), m_title(std::move(title)) {}
@@ -27,7 +28,7 @@ public:
 
     const QList<MenuAction*>& actions() const { return m_actions; }
 
-    QList<QObject*> lines() const { return {m_actions.begin(), m_actions.end()}; }
+    QQmlListProperty<MenuAction> lines() { return {this, &m_actions}; }
 
     MenuAction* add(MenuAction::Words words);
     void addSeparator();
@@ -43,12 +44,12 @@ class Menus : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
-    Q_PROPERTY(QList<QObject*> columns READ columns CONSTANT)
+    Q_PROPERTY(QQmlListProperty<tavrik::MenuColumn> columns READ columns CONSTANT)
 
 public:
     Menus(WindowModel& window, AppDelegate& delegate);
 
-    QList<QObject*> columns() const { return {m_columns.begin(), m_columns.end()}; }
+    QQmlListProperty<MenuColumn> columns() { return {this, &m_columns}; }
 
     /// What is enabled, checked or said may have changed.
     void refresh();

@@ -13,7 +13,7 @@ Sheet {
     name: qsTr("Apply Changes")
     visible: apply.stage === ApplyModel.Plan || apply.stage === ApplyModel.Result
     contentWidth: 520
-    contentHeight: page.item ? page.item.implicitHeight : 0
+    contentHeight: (page.item as Item)?.implicitHeight ?? 0
     onClosed: {
         showsDetails = false
         apply.close()

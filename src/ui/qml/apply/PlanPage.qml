@@ -34,10 +34,10 @@ Column {
     }
     Remark {
         width: parent.width
-        visible: page.apply.runningApps.length > 0
+        visible: page.apply.runningApps !== ""
         glyph: "info"
         color: Style.accent
-        text: qsTr("These apps are open and must be closed before: %1.").arg(page.apply.runningApps.join(", "))
+        text: qsTr("These apps are open and must be closed before: %1.").arg(page.apply.runningApps)
         actionText: qsTr("Quit Them for Me")
         onAction: page.apply.askAppsToQuit()
     }
