@@ -15,6 +15,7 @@ Rectangle {
     component Heading: Label {
         width: parent.width
         leftPadding: 10
+        rightPadding: 10
         topPadding: 14
         bottomPadding: 4
         font.pixelSize: Style.smallText

@@ -20,6 +20,7 @@ QQuickWindow* library(Program& program) {
     program.model().setPlace(WindowModel::Place::Themes);
     page.showLibrary();
     page.work()->dismiss();
+    Stagehand::pointAway(program.mainWindow());
     Stagehand::waitFor([&] { return page.isLoaded() && !program.delegate().isStarting(); });
     Stagehand::click(QStringLiteral("welcome-start"));
     return program.mainWindow();

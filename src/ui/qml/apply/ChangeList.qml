@@ -32,6 +32,7 @@ Rectangle {
             Label {
                 width: parent.width
                 leftPadding: 12
+                rightPadding: 12
                 text: qsTr("%1 (%2)").arg(group.modelData.title).arg(group.modelData.lines.length)
                 font.weight: Font.DemiBold
                 font.pixelSize: Style.smallText

@@ -9,7 +9,7 @@ T.Button {
     property int kind: PushButton.Plain
     property string hint
 
-    implicitWidth: Math.max(64, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitWidth: Math.ceil(Math.max(64, contentItem.implicitWidth + leftPadding + rightPadding))
     implicitHeight: Style.controlHeight
     leftPadding: 14
     rightPadding: 14

@@ -47,7 +47,7 @@ Rectangle {
                     control.choose(index + by, repeater.itemAt(index + by))
                 }
 
-                implicitWidth: Math.max(56, implicitContentWidth + 24)
+                implicitWidth: Math.ceil(Math.max(56, implicitContentWidth + 24))
                 implicitHeight: control.height - 4
                 focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab

@@ -44,7 +44,7 @@ T.Button {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: item.count
-            color: Style.faint
+            color: item.isCurrent ? Style.secondary : Style.faint
             font.pixelSize: Style.smallText
             Accessible.ignored: true
         }

@@ -6,12 +6,13 @@ T.TextField {
     id: box
 
     required property string name
+    readonly property bool isCut: !activeFocus && !preeditText && contentWidth > width - leftPadding - rightPadding
 
     implicitWidth: 200
     implicitHeight: Style.controlHeight
     leftPadding: 8
     rightPadding: 8
-    color: Style.text
+    color: isCut ? "transparent" : Style.text
     placeholderTextColor: Style.faint
     selectionColor: Style.accent
     selectedTextColor: Style.textOnAccent
@@ -25,9 +26,11 @@ T.TextField {
         x: box.leftPadding
         width: box.width - box.leftPadding - box.rightPadding
         height: box.height
-        visible: !box.text && !box.preeditText
-        text: box.placeholderText
-        color: Style.faint
+        visible: box.isCut || !box.text && !box.preeditText
+        text: box.isCut ? box.text : box.placeholderText
+        font: box.font
+        elide: Text.ElideMiddle
+        color: box.isCut ? Style.text : Style.faint
         Accessible.ignored: true
     }
 

@@ -35,6 +35,7 @@ Item {
         Row {
             anchors.centerIn: parent
             spacing: -2
+            LayoutMirroring.enabled: false
 
             Glyph { name: "left"; size: 14; color: "#44444a" }
             Glyph { name: "right"; size: 14; color: "#44444a" }

@@ -24,7 +24,8 @@ Item {
     Glyph {
         id: sign
 
-        x: 14
+        anchors.left: parent.left
+        anchors.leftMargin: 14
         y: 9
         name: row.signs[row.condition][0]
         color: row.signs[row.condition][1]

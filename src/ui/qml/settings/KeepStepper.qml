@@ -11,19 +11,23 @@ Column {
 
     Item {
         width: parent.width
-        height: Style.controlHeight
+        height: Math.max(Style.controlHeight, count.implicitHeight)
 
         Label {
+            id: count
+
             anchors.left: parent.left
             anchors.right: buttons.left
             anchors.rightMargin: Style.gap
-            height: parent.height
+            anchors.verticalCenter: parent.verticalCenter
+            wrapMode: Text.Wrap
             text: qsTr("Keep the newest %1").arg(stepper.page.keepCount)
         }
         Row {
             id: buttons
 
             anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
 
             GlyphButton {
                 objectName: "keep-less"

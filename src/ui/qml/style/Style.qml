@@ -13,7 +13,7 @@ QtObject {
     readonly property color sunken: dark ? "#19191b" : "#f0f0f3"
     readonly property color text: dark ? "#f3f3f5" : "#1d1d1f"
     readonly property color secondary: dark ? "#a3a3aa" : "#66666c"
-    readonly property color faint: dark ? "#85858c" : "#8a8a91"
+    readonly property color faint: dark ? "#909097" : "#75757c"
     readonly property color line: dark ? "#3a3a3f" : "#e1e1e5"
     readonly property color border: dark ? "#4d4d53" : "#d0d0d6"
     readonly property color hover: dark ? "#12ffffff" : "#0a000000"

@@ -32,6 +32,7 @@ Sheet {
         spacing: Style.gap
 
         Label {
+            width: parent.width
             text: sheet.name
             font.pixelSize: Style.headingText
             font.weight: Font.DemiBold
@@ -61,11 +62,13 @@ Sheet {
             id: moveIcons
 
             objectName: "moveActiveIcons"
+            anchors.left: parent.left
             text: qsTr("Move active icons into theme")
         }
         Label {
-            x: 16 + Style.gap
-            width: parent.width - x
+            anchors.left: parent.left
+            anchors.leftMargin: moveIcons.indicator.width + Style.gap
+            anchors.right: parent.right
             wrapMode: Text.Wrap
             font.pixelSize: Style.smallText
             color: Style.secondary

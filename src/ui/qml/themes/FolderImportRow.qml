@@ -103,7 +103,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Style.margin
         anchors.verticalCenter: parent.verticalCenter
-        width: 124
+        width: 148
         horizontalAlignment: Text.AlignRight
         font.pixelSize: Style.smallText
         color: row.isDoubtful ? Style.warning : Style.secondary
@@ -112,7 +112,8 @@ Item {
     }
     Separator {
         anchors.bottom: parent.bottom
-        x: 40
-        width: parent.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: 40
+        anchors.right: parent.right
     }
 }

@@ -41,6 +41,7 @@ Sheet {
         Label {
             id: caption
 
+            anchors.left: parent.left
             height: field.height
             text: qsTr("Theme name:")
         }

@@ -46,6 +46,7 @@ Item {
             id: field
 
             objectName: "renameTheme"
+            anchors.left: parent.left
             width: Math.min(parent.width, 280)
             visible: bar.theme.isEditing
             name: qsTr("Theme name")
