@@ -181,6 +181,10 @@
         <source>Clear Filters</source>
         <translation>Filter zurücksetzen</translation>
     </message>
+    <message>
+        <source>Clear Search</source>
+        <translation>Suche löschen</translation>
+    </message>
 </context>
 <context>
     <name>ApplySheet</name>
@@ -412,7 +416,7 @@
         <translation>%1 Apps stehen auf anderen Seiten als im neuesten Backup.</translation>
     </message>
     <message>
-        <source>If it was not you who moved them, look at the backups with &quot;tavrikctl backup show&quot;, and restore one.</source>
+        <source>If it was not you who moved them, look at the state before under “Backups”, and restore it.</source>
         <translation>Wenn nicht du sie bewegt hast, sieh dir unter „Backups“ den Stand davor an und stelle ihn wieder her.</translation>
     </message>
     <message>
@@ -420,7 +424,7 @@
         <translation>Ein Anwenden läuft oder wurde auf halbem Weg angehalten.</translation>
     </message>
     <message>
-        <source>The repair takes up where it was stopped. What it was to apply stays staged, and &quot;tavrikctl apply&quot; carries it to its end.</source>
+        <source>The repair takes up where it was stopped. What it was to apply stays staged: apply it once more, and it is carried to its end.</source>
         <translation>Die Reparatur macht dort weiter, wo es angehalten wurde. Was angewendet werden sollte, bleibt vorgemerkt; wende es noch einmal an, um es zu Ende zu bringen.</translation>
     </message>
     <message>
@@ -428,7 +432,7 @@
         <translation>Ein Wiederherstellen läuft oder wurde auf halbem Weg angehalten: Was davor da war, liegt in %1.</translation>
     </message>
     <message>
-        <source>Restore the same backup again with &quot;tavrikctl backup restore&quot;. That finishes it, and removes the copy.</source>
+        <source>Restore the same backup again under “Backups”. That finishes it, and removes the copy.</source>
         <translation>Stelle unter „Backups“ dasselbe Backup noch einmal wieder her. Das bringt es zu Ende und entfernt die Kopie.</translation>
     </message>
     <message>
@@ -496,7 +500,7 @@
         <translation>Die Reparatur vergisst, welches.</translation>
     </message>
     <message>
-        <source>&quot;tavrikctl backup restore&quot; puts a backup in its place.</source>
+        <source>“Restore” under “Backups” puts one in its place.</source>
         <translation>Unter „Backups“ lässt sich an seiner Stelle ein Backup wiederherstellen.</translation>
     </message>
     <message>
@@ -528,7 +532,7 @@
         <translation>Die Einstellungen sind verloren, und damit das Wissen über umgestaltete Apps.</translation>
     </message>
     <message>
-        <source>Restore a backup with &quot;tavrikctl backup restore&quot;: it shows every application as it is without Tavrik. Icons, themes and backups are there.</source>
+        <source>Restore a backup under “Backups”: it shows every application as it is without Tavrik. Icons, themes and backups are there.</source>
         <translation>Stelle ein Backup wieder her: Es zeigt jede App wie ohne Tavrik. Symbole, Themen und Backups sind noch da.</translation>
     </message>
     <message>
@@ -932,7 +936,7 @@
         <translation>Das Volume ist zu voll: %1 werden gebraucht, %2 sind frei. Schaffe Platz und versuche es noch einmal.</translation>
     </message>
     <message>
-        <source>The Dock&apos;s preferences cannot be read: %1. A backup of them can be restored with &quot;tavrikctl backup restore&quot;.</source>
+        <source>The Dock&apos;s preferences cannot be read: %1. A backup of them can be restored in the settings, under “Backups”.</source>
         <translation>Die Einstellungen des Docks können nicht gelesen werden: %1. Ein Backup davon lässt sich unter „Backups“ wiederherstellen.</translation>
     </message>
     <message>
@@ -1888,16 +1892,20 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
         <translation>Tavrik installiert nichts von selbst: Es öffnet die Seite in deinem Browser.</translation>
     </message>
     <message>
-        <source>Switch Tavrik on in System Preferences &gt; Security &amp; Privacy &gt; Privacy &gt; Full Disk Access (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
-        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Sicherheit &amp; Datenschutz &gt; Datenschutz &gt; Festplattenvollzugriff ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+        <source>Switch Tavrik on in System Preferences &gt; Security &amp; Privacy &gt; Privacy &gt; Full Disk Access and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Sicherheit &amp; Datenschutz &gt; Datenschutz &gt; Festplattenvollzugriff ein und öffne es neu: macOS verwehrt ihm %1.</translation>
     </message>
     <message>
-        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; App Management (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
-        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; App-Verwaltung ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; App Management and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; App-Verwaltung ein und öffne es neu: macOS verwehrt ihm %1.</translation>
     </message>
     <message>
-        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; Full Disk Access (for tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.</source>
-        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Festplattenvollzugriff ein (für tavrikctl das Terminal, in dem es läuft) und öffne es neu: macOS verwehrt ihm %1.</translation>
+        <source>Switch Tavrik on in System Settings &gt; Privacy &amp; Security &gt; Full Disk Access and open it again: macOS keeps it from %1.</source>
+        <translation>Schalte Tavrik unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Festplattenvollzugriff ein und öffne es neu: macOS verwehrt ihm %1.</translation>
+    </message>
+    <message>
+        <source>Use a PNG, JPEG, HEIC, TIFF, WebP, GIF, BMP, JPEG 2000, SVG, ICO or ICNS picture.</source>
+        <translation>Verwende ein Bild als PNG, JPEG, HEIC, TIFF, WebP, GIF, BMP, JPEG 2000, SVG, ICO oder ICNS.</translation>
     </message>
 </context>
 <context>

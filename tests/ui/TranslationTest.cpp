@@ -1,4 +1,5 @@
 #include "UiStage.h"
+#include "ui/models/CoreCatalogue.h"
 #include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 #include "ui/screens/PseudoLocale.h"
@@ -60,7 +61,8 @@ protected:
         ASSERT_TRUE(waitFor([&] { return reading.wait_for(0s) == std::future_status::ready; }));
         const auto [apps, themes] = reading.get();
         for (const ApplicationInfo& app : apps)
-            m_names << toQString(app.name) << toQString(app.bundleID);
+            m_names << toQString(managers.fonts.fontReplacer().convertToNormal(app.name)) << toQString(app.name)
+                    << toQString(app.bundleID);
         for (const Theme& theme : themes)
             m_names << toQString(theme.name);
         for (const FontReplacer::FontMap& style : managers.fonts.fontReplacer().allFontMaps())
@@ -68,6 +70,7 @@ protected:
         for (const char* const folder : {"Utilities", "Studio", "Under Way", "Downloads", "Tavrik", "Windlass",
                                          "Ferrule copy", "Zeppelin", "Candy", "Hello, Launchpad"})
             m_names << QString::fromLatin1(folder);
+        m_names << model().updates()->offer()->notes();
         for (int month = 1; month <= 12; ++month)
             m_names << QLocale().monthName(month, QLocale::ShortFormat);
         std::ranges::sort(m_names, std::greater(), &QString::size);
@@ -111,6 +114,17 @@ TEST_F(Translation, FindsReasonsAndNamesWithinWhatTheCoreSays) {
     };
     for (const auto& [english, translated] : sentences)
         EXPECT_EQ(inTheirLanguage(english).remove(QLatin1Char('~')).toStdString(), translated);
+}
+
+TEST(Catalogues, SendNobodyFromTheWindowToTheCompanion) {
+    const auto values = [](QString text) { return text.remove(QRegularExpression(QStringLiteral("[^%1-9]"))); };
+    for (const char* const sentence : coreSentences())
+        EXPECT_FALSE(QString::fromUtf8(sentence).contains(QLatin1String("tavrikctl"))) << sentence;
+    for (const Reworded& sentence : rewordedSentences()) {
+        const QString shown = inTheirLanguage(sentence.told);
+        EXPECT_FALSE(shown.contains(QLatin1String("tavrikctl"))) << sentence.told;
+        EXPECT_EQ(values(shown), values(QString::fromUtf8(sentence.told))) << sentence.told;
+    }
 }
 
 /// A catalogue as it is edited, beside what was compiled of it.

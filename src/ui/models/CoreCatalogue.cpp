@@ -16,28 +16,13 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "The Dock's preferences are missing: %1."),
     QT_TRANSLATE_NOOP(
         "Core", "This Mac does not tell its serial number, so that backups can be neither made nor opened."),
-    QT_TRANSLATE_NOOP(
-        "Core", "Switch Tavrik on in System Preferences > Security & Privacy > Privacy > Full Disk Access (for "
-                "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
-    QT_TRANSLATE_NOOP("Core",
-                      "Switch Tavrik on in System Settings > Privacy & Security > App Management (for "
-                      "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
-    QT_TRANSLATE_NOOP("Core",
-                      "Switch Tavrik on in System Settings > Privacy & Security > Full Disk Access (for "
-                      "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1."),
     QT_TRANSLATE_NOOP("Core", "Nothing is applied without a backup."),
     QT_TRANSLATE_NOOP("Core", "\"%1\" cannot be used. %2"),
     QT_TRANSLATE_NOOP("Core", "Another backup may serve. Delete the file if you do not need it."),
     QT_TRANSLATE_NOOP("Core", "%1 applications stand on other pages than in the newest backup."),
-    QT_TRANSLATE_NOOP("Core", "If it was not you who moved them, look at the backups with \"tavrikctl backup "
-                              "show\", and restore one."),
     QT_TRANSLATE_NOOP("Core", "An apply is under way, or was stopped half-way."),
-    QT_TRANSLATE_NOOP("Core", "The repair takes up where it was stopped. What it was to apply stays staged, "
-                              "and \"tavrikctl apply\" carries it to its end."),
     QT_TRANSLATE_NOOP("Core",
                       "A restore is under way, or was stopped half-way: what was there before it is in %1."),
-    QT_TRANSLATE_NOOP("Core", "Restore the same backup again with \"tavrikctl backup restore\". That finishes "
-                              "it, and removes the copy."),
     QT_TRANSLATE_NOOP("Core", "%1 was left behind by a program that was stopped."),
     QT_TRANSLATE_NOOP("Core", "The repair deletes it."),
     QT_TRANSLATE_NOOP("Core", "%1 is a link or a file where a folder belongs, so nothing is changed in it."),
@@ -55,7 +40,6 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "They are yours, and stay until you delete %1."),
     QT_TRANSLATE_NOOP("Core", "An icon is noted for %1, which is not installed."),
     QT_TRANSLATE_NOOP("Core", "The repair forgets which."),
-    QT_TRANSLATE_NOOP("Core", "\"tavrikctl backup restore\" puts a backup in its place."),
     QT_TRANSLATE_NOOP(
         "Core",
         "Close other programs that use it, open Launchpad once, and look again. If that does not help, %1"),
@@ -70,8 +54,6 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP(
         "Core", "The repair puts the copy in their place. The change before the last may be the newest in it."),
     QT_TRANSLATE_NOOP("Core", "The settings are lost, and so is what was known of restyled applications."),
-    QT_TRANSLATE_NOOP("Core", "Restore a backup with \"tavrikctl backup restore\": it shows every application "
-                              "as it is without Tavrik. Icons, themes and backups are there."),
     QT_TRANSLATE_NOOP("Core", "What is staged cannot be read: %1."),
     QT_TRANSLATE_NOOP("Core",
                       "The repair puts the file aside, beside where it is, so that staging starts anew."),
@@ -189,8 +171,6 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "%1 is a link or a file where a folder belongs. Move it away, and try again."),
     QT_TRANSLATE_NOOP("Core",
                       "The disk is too full: %1 are needed, and %2 are free. Make room, and try again."),
-    QT_TRANSLATE_NOOP("Core", "The Dock's preferences cannot be read: %1. A backup of them can be restored "
-                              "with \"tavrikctl backup restore\"."),
     QT_TRANSLATE_NOOP("Core", "The folder of the wrappers cannot be read: %1."),
     QT_TRANSLATE_NOOP(
         "Core", "The Launchpad database cannot be read: %1. Close other programs that use it, and try again."),
@@ -261,6 +241,8 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "“%1” is a drawing that cannot be read."),
     QT_TRANSLATE_NOOP("Core", "“%1” is a drawing that takes in other files."),
     QT_TRANSLATE_NOOP("Core", "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS picture."),
+    QT_TRANSLATE_NOOP("Core",
+                      "Use a PNG, JPEG, HEIC, TIFF, WebP, GIF, BMP, JPEG 2000, SVG, ICO or ICNS picture."),
     QT_TRANSLATE_NOOP("Core", "Copy, export or download it again."),
     QT_TRANSLATE_NOOP("Core", "Open it in a picture editor and export it again as PNG."),
     QT_TRANSLATE_NOOP("Core", "Scale it down; 1024 by 1024 pixels is all that an icon needs, and %1 a side is "
@@ -454,10 +436,53 @@ constexpr const char* kLabels[] = {
     QT_TRANSLATE_NOOP("Core", "Waving magic wand..."),
 };
 
+/// What speaks of the companion where the window has a place of its own.
+constexpr Reworded kReworded[] = {
+    {.told = "Switch Tavrik on in System Preferences > Security & Privacy > Privacy > Full Disk Access (for "
+             "tavrikctl, the terminal that it runs in) and open it again: macOS keeps it from %1.",
+     .shown = QT_TRANSLATE_NOOP("Core", "Switch Tavrik on in System Preferences > Security & Privacy > Privacy "
+                                        "> Full Disk Access and open it again: macOS keeps it from %1.")},
+    {.told = "Switch Tavrik on in System Settings > Privacy & Security > App Management (for tavrikctl, the "
+             "terminal that it runs in) and open it again: macOS keeps it from %1.",
+     .shown = QT_TRANSLATE_NOOP("Core", "Switch Tavrik on in System Settings > Privacy & Security > App "
+                                        "Management and open it again: macOS keeps it from %1.")},
+    {.told = "Switch Tavrik on in System Settings > Privacy & Security > Full Disk Access (for tavrikctl, the "
+             "terminal that it runs in) and open it again: macOS keeps it from %1.",
+     .shown = QT_TRANSLATE_NOOP("Core", "Switch Tavrik on in System Settings > Privacy & Security > Full Disk "
+                                        "Access and open it again: macOS keeps it from %1.")},
+    {.told = "If it was not you who moved them, look at the backups with \"tavrikctl backup show\", and "
+             "restore one.",
+     .shown = QT_TRANSLATE_NOOP(
+         "Core",
+         "If it was not you who moved them, look at the state before under “Backups”, and restore it.")},
+    {.told = "The repair takes up where it was stopped. What it was to apply stays staged, and \"tavrikctl "
+             "apply\" carries it to its end.",
+     .shown = QT_TRANSLATE_NOOP("Core", "The repair takes up where it was stopped. What it was to apply stays "
+                                        "staged: apply it once more, and it is carried to its end.")},
+    {.told = "Restore the same backup again with \"tavrikctl backup restore\". That finishes it, and removes "
+             "the copy.",
+     .shown = QT_TRANSLATE_NOOP(
+         "Core", "Restore the same backup again under “Backups”. That finishes it, and removes the copy.")},
+    {.told = "\"tavrikctl backup restore\" puts a backup in its place.",
+     .shown = QT_TRANSLATE_NOOP("Core", "“Restore” under “Backups” puts one in its place.")},
+    {.told = "Restore a backup with \"tavrikctl backup restore\": it shows every application as it is without "
+             "Tavrik. Icons, themes and backups are there.",
+     .shown = QT_TRANSLATE_NOOP("Core", "Restore a backup under “Backups”: it shows every application as it "
+                                        "is without Tavrik. Icons, themes and backups are there.")},
+    {.told = "The Dock's preferences cannot be read: %1. A backup of them can be restored with \"tavrikctl "
+             "backup restore\".",
+     .shown = QT_TRANSLATE_NOOP("Core", "The Dock's preferences cannot be read: %1. A backup of them can be "
+                                        "restored in the settings, under “Backups”.")},
+};
+
 } // namespace
 
 std::span<const char* const> coreSentences() {
     return kSentences;
+}
+
+std::span<const Reworded> rewordedSentences() {
+    return kReworded;
 }
 
 std::span<const char* const> coreLabels() {

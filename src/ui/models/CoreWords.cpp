@@ -17,8 +17,11 @@ constexpr int kDeepest = 4; ///< of sentences within sentences
 /// A sentence of the catalogue, cut at the places of its values.
 class Pattern {
 public:
-    explicit Pattern(const char* source) : m_source(source) {
-        const QString text = QString::fromUtf8(source);
+    explicit Pattern(const char* told) : Pattern(told, told) {}
+
+    /// One that the window says as `shown`.
+    Pattern(const char* told, const char* shown) : m_shown(shown) {
+        const QString text = QString::fromUtf8(told);
         m_pieces.append(QString());
         for (qsizetype i = 0; i < text.size(); ++i) {
             if (text[i] == QLatin1Char('%') && i + 1 < text.size() && text[i + 1].isDigit()) {
@@ -31,7 +34,7 @@ public:
         }
     }
 
-    const char* source() const { return m_source; }
+    const char* shown() const { return m_shown; }
 
     /// How much of a text it explains: of two that fit, the one that explains more is meant.
     qsizetype length() const { return m_length; }
@@ -56,13 +59,20 @@ public:
     }
 
 private:
-    const char* m_source;
+    const char* m_shown;
     QStringList m_pieces;
     qsizetype m_length = 0;
 };
 
 std::vector<Pattern> patternsOf(std::span<const char* const> sources) {
     return std::vector<Pattern>(sources.begin(), sources.end());
+}
+
+std::vector<Pattern> allSentences() {
+    std::vector<Pattern> patterns = patternsOf(coreSentences());
+    for (const Reworded& sentence : rewordedSentences())
+        patterns.emplace_back(sentence.told, sentence.shown);
+    return patterns;
 }
 
 /// A value stays as it is, percent signs included.
@@ -98,7 +108,7 @@ std::optional<QString> saidBy(const std::vector<Pattern>& patterns, const QStrin
         return std::nullopt;
     for (QString& value : values)
         value = said(value, depth + 1);
-    return filled(QCoreApplication::translate("Core", best->source()), values);
+    return filled(QCoreApplication::translate("Core", best->shown()), values);
 }
 
 /// The sentences one by one, when each is known for itself.
@@ -112,7 +122,7 @@ std::optional<QString> saidInParts(const std::vector<Pattern>& patterns, const Q
 }
 
 QString said(const QString& text, int depth) {
-    static const std::vector<Pattern> sentences = patternsOf(coreSentences());
+    static const std::vector<Pattern> sentences = allSentences();
     if (depth >= kDeepest)
         return text;
     if (auto whole = saidBy(sentences, text, depth))

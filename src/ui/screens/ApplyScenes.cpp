@@ -51,12 +51,30 @@ QQuickWindow* showDetails(Program& program) {
     return program.mainWindow();
 }
 
-/// As in the middle of an apply; the next scene ends it.
+/// What an apply asks, where one of the applications runs; the next scene answers.
+QQuickWindow* showCloseApps(Program& program) {
+    ApplyModel& apply = *program.model().apply();
+    if (apply.runningApps().isEmpty())
+        return program.mainWindow();
+    apply.apply();
+    Stagehand::waitFor([&] { return program.model().alerts()->isShown(); });
+    return program.mainWindow();
+}
+
+QQuickWindow* showCancelled(Program& program) {
+    if (!program.model().alerts()->isShown())
+        return program.mainWindow();
+    program.model().alerts()->answer(1);
+    Stagehand::waitFor([&] { return program.model().apply()->stage() == ApplyModel::Stage::Result; });
+    return program.mainWindow();
+}
+
+/// As in the middle of a refresh; the next scene ends it.
 QQuickWindow* showProgress(Program& program) {
     program.model().apply()->close();
     ProgressOverlayManager& progress = program.managers().progress;
     progress.show(program.mainWindow(), 12);
-    progress.update("Conjuring icons...", 5);
+    progress.update("Restarting Dock...", 5);
     return program.mainWindow();
 }
 
@@ -97,6 +115,8 @@ std::vector<Scene> applyScenes() {
         {QStringLiteral("apply-refused-plan"), showRefusedPlan},
         {QStringLiteral("apply-plan"), showPlan},
         {QStringLiteral("apply-plan-details"), showDetails},
+        {QStringLiteral("apply-close-apps"), showCloseApps},
+        {QStringLiteral("apply-cancelled"), showCancelled},
         {QStringLiteral("apply-progress"), showProgress},
         {QStringLiteral("apply-question"), showQuestion},
         {QStringLiteral("apply-welcome"), showWelcome},

@@ -98,15 +98,24 @@ QQuickWindow* showFindings(Program& program) {
     return window;
 }
 
-QQuickWindow* showTraces(Program& program) {
+/// An apply to its end, which leaves something to take back.
+QQuickWindow* showApplied(Program& program) {
     PendingChangesManager& pending = program.managers().pendingChanges;
+    ApplyModel& apply = *program.model().apply();
     program.model().goTo(WindowModel::Place::UserApps);
     program.delegate().discardChanges();
     Stagehand::settled(program.mainWindow());
     pending.addIcons(savedIcons(program));
     pending.setPendingFont("Mathematical Script");
-    program.delegate().applyChanges();
-    Stagehand::waitFor([&] { return !pending.hasPendingChanges(); }, kMinutes);
+    apply.begin();
+    Stagehand::waitFor([&] { return apply.stage() == ApplyModel::Stage::Plan; });
+    apply.apply();
+    Stagehand::waitFor([&] { return apply.stage() == ApplyModel::Stage::Result; }, kMinutes);
+    Stagehand::pointAway(program.mainWindow());
+    return program.mainWindow();
+}
+
+QQuickWindow* showTraces(Program& program) {
     program.model().apply()->close();
     QQuickWindow* const window = showTab(program, Tab::Leave);
     program.model().leaving()->refresh();
@@ -155,6 +164,7 @@ std::vector<Scene> settingsScenes() {
              waitFor(*program.model().health()->work());
              return showTab(program, Tab::Health);
          }},
+        {QStringLiteral("apply-applied"), showApplied},
         {QStringLiteral("settings-leave"), showTraces},
         {QStringLiteral("settings-leave-question"),
          [](Program& program) {

@@ -52,7 +52,7 @@ Item {
         text: states.page.searchText && states.page.isFiltered
               ? qsTr("Filters hide further apps. Without them there may be one.")
               : states.page.searchText ? qsTr("Search looks at names and at identifiers.") : ""
-        actionText: qsTr("Clear Filters")
+        actionText: states.page.isFiltered ? qsTr("Clear Filters") : qsTr("Clear Search")
         onAction: states.page.clearFilters()
     }
     AnalysisProgress {
