@@ -18,15 +18,20 @@ namespace tavrik {
 namespace {
 
 constexpr int kDrawingSide = 1024; ///< pixels of a drawing's longer side
-constexpr const char* kWhatWorks = "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS picture.";
+
+std::string whatWorks() {
+    if (systemPictureExtensions().empty())
+        return "Use a PNG, JPEG, TIFF, WebP, GIF, BMP, SVG, ICO or ICNS picture.";
+    return "Use a PNG, JPEG, HEIC, TIFF, WebP, GIF, BMP, JPEG 2000, SVG, ICO or ICNS picture.";
+}
 
 class Refusal {
 public:
     explicit Refusal(std::string_view name) : m_name(name) {}
 
-    Error unknown() const { return because("is not a picture of a kind that can be read", kWhatWorks); }
+    Error unknown() const { return because("is not a picture of a kind that can be read", whatWorks()); }
 
-    Error empty() const { return because("is empty", kWhatWorks); }
+    Error empty() const { return because("is empty", whatWorks()); }
 
     Error cutShort() const {
         return because("is cut short: it ends before the picture does", "Copy, export or download it again.");
@@ -202,6 +207,14 @@ Result<QImage> readPicture(ByteView data, std::string_view name) {
     const auto picture =
         format == PictureFormat::png ? readPNG(data, refusal) : readPixels(data, reader, refusal);
     return picture ? Result<QImage>(standardised(*picture)) : picture;
+}
+
+std::vector<std::string_view> pictureExtensions() {
+    std::vector<std::string_view> extensions{"png", "jpg", "jpeg", "tif",  "tiff", "webp",
+                                             "gif", "bmp", "svg",  "svgz", "ico",  "icns"};
+    const auto ofSystem = systemPictureExtensions();
+    extensions.insert(extensions.end(), ofSystem.begin(), ofSystem.end());
+    return extensions;
 }
 
 } // namespace tavrik

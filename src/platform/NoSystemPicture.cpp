@@ -10,4 +10,8 @@ QImage decodedBySystem(ByteView) {
     return {};
 }
 
+std::span<const std::string_view> systemPictureExtensions() {
+    return {};
+}
+
 } // namespace tavrik

@@ -1,23 +1,23 @@
 #include "themes/HostPictures.h"
 
+#include "icons/ImageIntake.h"
 #include "platform/HostFile.h"
 
 #include <QDir>
 #include <QString>
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 namespace tavrik {
 
 bool isPictureName(std::string_view fileName) {
-    static constexpr std::array<std::string_view, 12> kExtensions = {
-        "png", "jpg", "jpeg", "tif", "tiff", "webp", "gif", "bmp", "svg", "svgz", "ico", "icns"};
+    static const std::vector<std::string_view> extensions = pictureExtensions();
     std::string extension = HostPath(fileName).extension();
     std::ranges::transform(extension, extension.begin(), [](char letter) {
         return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
     });
-    return std::ranges::find(kExtensions, extension) != kExtensions.end();
+    return std::ranges::find(extensions, extension) != extensions.end();
 }
 
 Result<PictureFolder> pictureFolderAt(const HostPath& folder) {

@@ -317,6 +317,19 @@ TEST_F(ApplicationsViewTest, SaysWhyAnApplicationCannotBeRestyled) {
     EXPECT_TRUE(staged().empty());
 }
 
+TEST_F(ApplicationsViewTest, AddsThePicturesThatAreChosenInADialog) {
+    open();
+    EXPECT_TRUE(page().picturePatterns().contains(QLatin1String("*.png *.jpg")));
+    const auto current = [&] { return list->property("currentRow").value<QQuickItem*>(); };
+    ASSERT_TRUE(waitFor([&] { return current() != nullptr; }));
+    const QString name = current()->property("name").toString();
+    QSignalSpy added(&apps(), &ApplicationsList::added);
+    press(window(), Qt::Key_O, Qt::ControlModifier);
+    chooseInPanel("selectedFile", file(QStringLiteral("Red.png"), Qt::red));
+    ASSERT_TRUE(waitFor([&] { return added.count() == 1; }));
+    EXPECT_EQ(icons(name).size(), 1);
+}
+
 TEST_F(ApplicationsViewTest, AnUnreadableDatabaseIsSaidAndReadAgainOnDemand) {
     const std::filesystem::path database = volume.launchpadDatabase().string();
     const std::filesystem::path away = database.string() + ".away";

@@ -314,24 +314,11 @@ TEST_F(ThemesViewTest, ReplacesNoFileUnasked) {
     EXPECT_NE(*readHostFile(file), *before);
 }
 
-/// Where the system has no panel, Qt's own stands in.
 TEST_F(ThemesViewTest, AsksForFilesByDialogs) {
     startWithTheme();
-    const auto panel = [&]() -> QObject* {
-        for (QQuickItem* const layer : window()->contentItem()->childItems()) {
-            for (QQuickItem* const item : layer->childItems()) {
-                if (item->isVisible() && item->parent() && item->parent()->inherits("QQuickDialog"))
-                    return item->parent();
-            }
-        }
-        return nullptr;
-    };
     const auto choose = [&](const char* asks, const char* property, const HostPath& chosen) {
         ASSERT_TRUE(waitFor([&] { return click(asks); })) << asks;
-        ASSERT_TRUE(waitFor([&] { return panel() != nullptr; })) << asks;
-        panel()->setProperty(property, QUrl::fromLocalFile(named(chosen.string())));
-        QMetaObject::invokeMethod(panel(), "accept");
-        ASSERT_TRUE(waitFor([&] { return panel() == nullptr; })) << asks;
+        chooseInPanel(property, QUrl::fromLocalFile(named(chosen.string())));
         ASSERT_TRUE(finishes());
     };
     const HostPath file = folder.path() / "Ocean.tavriktheme";

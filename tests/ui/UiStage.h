@@ -17,6 +17,7 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTest>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -66,6 +67,24 @@ protected:
     WindowModel& model() { return program->model(); }
 
     QQuickWindow* window() { return program->mainWindow(); }
+
+    /// Qt's own panel of a file dialog, which stands in where the system has none.
+    QObject* panel() {
+        for (const QQuickItem* const layer : window()->contentItem()->childItems()) {
+            for (const QQuickItem* const item : layer->childItems()) {
+                if (item->isVisible() && item->parent() && item->parent()->inherits("QQuickDialog"))
+                    return item->parent();
+            }
+        }
+        return nullptr;
+    }
+
+    void chooseInPanel(const char* property, const QUrl& chosen) {
+        ASSERT_TRUE(waitFor([&] { return panel() != nullptr; }));
+        panel()->setProperty(property, chosen);
+        QMetaObject::invokeMethod(panel(), "accept");
+        ASSERT_TRUE(waitFor([&] { return panel() == nullptr; }));
+    }
 
 private:
     static QStringList& complaints() {

@@ -58,7 +58,13 @@ CFOwned<CGImageRef> uprightImage(CGImageSourceRef source, int side) {
     return CFOwned(CGImageSourceCreateThumbnailAtIndex(source, 0, (__bridge CFDictionaryRef)options));
 }
 
+constexpr std::array kExtensions{"heic"sv, "heif"sv, "jp2"sv, "jpf"sv, "jpx"sv, "j2k"sv};
+
 } // namespace
+
+std::span<const std::string_view> systemPictureExtensions() {
+    return kExtensions;
+}
 
 std::optional<QSize> sizeOfSystemPicture(ByteView data) {
     @autoreleasepool {

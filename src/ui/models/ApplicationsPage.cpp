@@ -2,6 +2,7 @@
 
 #include "app/Managers.h"
 #include "app/SharedCoordinators.h"
+#include "icons/ImageIntake.h"
 #include "ui/models/CoreWords.h"
 #include "ui/models/Text.h"
 
@@ -16,6 +17,13 @@ ApplicationsPage::ApplicationsPage(const UiServices& with)
     connect(&m_systemApps, &ApplicationsList::shown, &m_userApps, &ApplicationsList::changed);
     m_observation = with.managers.notificationCenter.observe(std::string(kFilterSettingsUpdated),
                                                              [this] { Q_EMIT filtersChanged(); });
+}
+
+QString ApplicationsPage::picturePatterns() const {
+    QStringList patterns;
+    for (const std::string_view extension : pictureExtensions())
+        patterns.append(QStringLiteral("*.") + toQString(extension));
+    return patterns.join(QLatin1Char(' '));
 }
 
 QString ApplicationsPage::searchText() const {

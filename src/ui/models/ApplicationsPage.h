@@ -20,6 +20,9 @@ class ApplicationsPage : public QObject {
     Q_PROPERTY(tavrik::ApplicationsList* systemApps READ systemApps CONSTANT)
     Q_PROPERTY(tavrik::PictureDrop* drop READ drop CONSTANT)
 
+    /// Of picture files, as file dialogs take them: "*.png *.jpg".
+    Q_PROPERTY(QString picturePatterns READ picturePatterns CONSTANT)
+
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filtersChanged)
     /// Labels of the options, one of which holds; `filterOption` counts them from 0.
     Q_PROPERTY(QStringList filterOptions READ filterOptions CONSTANT)
@@ -45,6 +48,7 @@ public:
 
     PictureDrop* drop() { return &m_drop; }
 
+    QString picturePatterns() const;
     QString searchText() const;
     QStringList filterOptions() const;
     int filterOption() const;

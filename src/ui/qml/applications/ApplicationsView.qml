@@ -50,6 +50,7 @@ FocusScope {
     PicturePicker {
         id: picker
 
+        patterns: view.page.picturePatterns
         onPicked: (bundleID, files) => view.applications.addFiles(bundleID, files)
     }
     Connections {

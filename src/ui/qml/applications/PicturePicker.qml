@@ -6,6 +6,7 @@ import Tavrik
 Item {
     id: picker
 
+    required property string patterns
     property string bundleID
     signal picked(string bundleID, var files)
 
@@ -24,7 +25,7 @@ Item {
             title: qsTr("Choose Pictures")
             fileMode: FileDialog.OpenFiles
             nameFilters: [
-                qsTr("Pictures (%1)").arg("*.png *.jpg *.jpeg *.tif *.tiff *.webp *.gif *.bmp *.svg *.svgz *.ico *.icns"),
+                qsTr("Pictures (%1)").arg(picker.patterns),
                 qsTr("All files (*)")
             ]
             onAccepted: picker.picked(picker.bundleID, selectedFiles)
