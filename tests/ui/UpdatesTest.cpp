@@ -1,3 +1,4 @@
+#include "Browser.h"
 #include "UiStage.h"
 #include "remote/Endpoint.h"
 #include "remote/NetworkConsent.h"
@@ -23,20 +24,6 @@ int openSockets() {
     }
     return count;
 }
-
-/// Remembers what the browser was to open.
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
-
-    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
-
-    Q_INVOKABLE void open(const QUrl& url) { opened.append(url.toString()); }
-
-    QStringList opened;
-};
 
 class UpdatesTest : public UiStage {
 protected:
@@ -89,7 +76,7 @@ protected:
     UpdateOffer& offer() { return *model().updates()->offer(); }
 
     SampleServer server;
-    Browser browser;
+    Browser browser{QStringLiteral("https")};
 };
 
 TEST_F(UpdatesTest, AsksOnceAtTheSecondStartAndSendsNothingBefore) {
@@ -315,5 +302,3 @@ TEST_F(UpdatesTest, AsksNothingWhileAnApplyRuns) {
 }
 
 } // namespace tavrik::test
-
-#include "UpdatesTest.moc"

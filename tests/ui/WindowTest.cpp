@@ -1,3 +1,4 @@
+#include "Browser.h"
 #include "UiStage.h"
 #include "platform/practice/Layout.h"
 #include "platform/practice/PropertyListFile.h"
@@ -106,6 +107,8 @@ TEST_F(WindowTest, TellsFromTheStartOnWhatMacOSRefusesAndOpensItsSettings) {
                                             plist::Array{plist::Value("/Applications")}));
     start();
     ASSERT_TRUE(waitFor([&] { return find(QStringLiteral("privacy-settings")) != nullptr; }));
+    const Browser system(QStringLiteral("x-apple.systempreferences"));
+    ASSERT_TRUE(click(QStringLiteral("privacy-settings")));
 
     program->managers().pendingChanges.setPendingFont("Small Caps");
     model().apply()->begin();
@@ -113,6 +116,9 @@ TEST_F(WindowTest, TellsFromTheStartOnWhatMacOSRefusesAndOpensItsSettings) {
     ASSERT_EQ(model().apply()->obstacles().size(), 1);
     EXPECT_TRUE(model().apply()->obstacles().first().contains(QStringLiteral("> Full Disk Access")));
     EXPECT_FALSE(find(QStringLiteral("apply-go"))->isEnabled());
+    ASSERT_TRUE(click(QStringLiteral("remark-action")));
+    EXPECT_EQ(system.opened, QStringList(2, QStringLiteral("x-apple.systempreferences:com.apple.preference."
+                                                           "security?Privacy_AllFiles")));
     ASSERT_TRUE(click(QStringLiteral("apply-cancel")));
 
     ASSERT_TRUE(mac.files.remove(practice::kRefusedPaths));
