@@ -49,7 +49,8 @@ void stageIcons(Program& program, std::size_t count) {
 QQuickWindow* showPreview(Program& program) {
     Stagehand::waitFor([&] { return !program.delegate().isStarting(); });
     program.model().setShowsPreview(true);
-    Stagehand::waitFor([&] { return program.model().preview()->isLoaded(); });
+    PreviewModel& preview = *program.model().preview();
+    Stagehand::waitFor([&] { return preview.isLoaded() && preview.isCurrent(); });
     return program.mainWindow();
 }
 
@@ -59,11 +60,9 @@ std::vector<Scene> previewScenes() {
     return {{QStringLiteral("preview"), showPreview},
             {QStringLiteral("preview-changed"),
              [](Program& program) {
-                 QQuickWindow* const window = showPreview(program);
                  stageIcons(program, 12);
                  program.managers().pendingChanges.setPendingFont("Mathematical Bold Script");
-                 Stagehand::waitFor([&] { return program.model().preview()->changeCount() > 12; });
-                 return window;
+                 return showPreview(program);
              }},
             {QStringLiteral("preview-folder"),
              [](Program& program) {
