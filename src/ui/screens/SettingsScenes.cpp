@@ -102,8 +102,9 @@ QQuickWindow* showFindings(Program& program) {
 QQuickWindow* showApplied(Program& program) {
     PendingChangesManager& pending = program.managers().pendingChanges;
     ApplyModel& apply = *program.model().apply();
-    program.model().goTo(WindowModel::Place::UserApps);
+    program.model().goTo(WindowModel::Place::Fonts);
     program.delegate().discardChanges();
+    Stagehand::pointAway(program.mainWindow());
     Stagehand::settled(program.mainWindow());
     pending.addIcons(savedIcons(program));
     pending.setPendingFont("Mathematical Script");
@@ -111,7 +112,6 @@ QQuickWindow* showApplied(Program& program) {
     Stagehand::waitFor([&] { return apply.stage() == ApplyModel::Stage::Plan; });
     apply.apply();
     Stagehand::waitFor([&] { return apply.stage() == ApplyModel::Stage::Result; }, kMinutes);
-    Stagehand::pointAway(program.mainWindow());
     return program.mainWindow();
 }
 
