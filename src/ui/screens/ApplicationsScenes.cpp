@@ -133,7 +133,10 @@ std::vector<Scene> applicationsScenes() {
         scene("applications-hover",
               [](Program&) { Stagehand::hover(Stagehand::findIn(rowAt(1), QStringLiteral("tile1"))); }),
         scene("applications-tip",
-              [](Program&) { Stagehand::hover(Stagehand::findIn(rowAt(2), QStringLiteral("tile2"))); }),
+              [](Program&) {
+                  Stagehand::hover(Stagehand::findIn(rowAt(2), QStringLiteral("tile2")));
+                  Stagehand::waitFor([] { return false; }, 1000); // as long as a tool tip hesitates
+              }),
         scene("applications-drop",
               [desk](Program&) { drag(4, {(*desk)["Harbour.png"], (*desk)["Dawn.png"]}); }),
         scene("applications-refused-drop", [desk](Program&) { drag(2, {(*desk)["Shopping.txt"]}); }),

@@ -63,6 +63,7 @@ Item {
             name: bar.page.isFiltered ? qsTr("Filter, in use") : qsTr("Filter")
             glyph: "filter"
             isOn: popover.opened
+            hasTip: !popover.opened
             onClicked: popover.opened ? popover.close() : popover.open()
 
             Rectangle {

@@ -11,6 +11,7 @@ T.Button {
     property string glyph
     property int glyphSize: 16
     property bool isOn: checked
+    property bool hasTip: true // a pane of the button's own says more
 
     implicitWidth: 32
     implicitHeight: Style.controlHeight
@@ -34,7 +35,7 @@ T.Button {
         border.color: Style.accent
     }
 
-    C.ToolTip.visible: hovered && !down
+    C.ToolTip.visible: hovered && !down && hasTip
     C.ToolTip.delay: 700
     C.ToolTip.text: name
 

@@ -9,6 +9,7 @@ GlyphButton {
     name: qsTr("About Themes")
     glyph: "help"
     isOn: help.visible
+    hasTip: !help.visible
     onClicked: help.visible = !help.visible
 
     Popover {
