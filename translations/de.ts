@@ -3820,6 +3820,22 @@ Bitte kehre zu macOS 15 Sequoia oder älter zurück, um fortzufahren.</translati
         <source>Tavrik Help</source>
         <translation>Hilfe zu Tavrik</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einsetzen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>tavrik::OneTheme</name>

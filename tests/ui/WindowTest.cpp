@@ -36,6 +36,35 @@ TEST_F(WindowTest, UndoesAndDiscardsByTheKeyboard) {
     EXPECT_TRUE(mac.files.exists(pending.tempFileURL()));
 }
 
+TEST_F(WindowTest, EditsWhereTheFocusWasByTheMenu) {
+    start();
+    constexpr int kEdit = 2;
+    const auto choose = [&](const QString& text) {
+        if (!waitFor([] { return click(find(QStringLiteral("menu-titles"))->childItems().value(kEdit)); }))
+            return false;
+        for (QQuickItem* const line : findIn(window()->contentItem(), QStringLiteral("menu-lines"))
+                                          ->property("contentItem")
+                                          .value<QQuickItem*>()
+                                          ->childItems()) {
+            if (line->property("text").toString() == text)
+                return click(line);
+        }
+        return false;
+    };
+    QQuickItem* const field = find(QStringLiteral("appSearch"));
+    const auto shows = [&](const char* text) {
+        return waitFor([&] { return field->property("text").toString() == QLatin1String(text); }, 1000);
+    };
+    press(window(), Qt::Key_F, Qt::ControlModifier);
+    type(window(), QStringLiteral("notes"));
+    EXPECT_TRUE(choose(QStringLiteral("Select All")));
+    EXPECT_TRUE(choose(QStringLiteral("Cut")));
+    EXPECT_TRUE(shows(""));
+    EXPECT_TRUE(choose(QStringLiteral("Paste")));
+    EXPECT_TRUE(choose(QStringLiteral("Paste")));
+    EXPECT_TRUE(shows("notesnotes"));
+}
+
 TEST_F(WindowTest, ShowsThePlanAppliesAndTellsTheResult) {
     start();
     program->managers().pendingChanges.setPendingFont("Small Caps");

@@ -3,6 +3,11 @@
 #include "app/AppDelegate.h"
 #include "ui/models/WindowModel.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QWindow>
+
 #include <utility>
 
 namespace tavrik {
@@ -43,6 +48,23 @@ MenuColumn& Menus::addColumn(const QString& title) {
 bool Menus::isAllowed() const {
     return m_delegate.validateMenuItem(AppDelegate::MenuAction::other) && !m_window.isBlocked() &&
            m_window.apply()->stage() == ApplyModel::Stage::Idle && !m_window.alerts()->isShown();
+}
+
+void Menus::typeAfterwards(Qt::Key key) {
+    if (m_isTyping)
+        return;
+    const auto type = [this, key] {
+        QWindow* const window = QGuiApplication::focusWindow();
+        if (!window)
+            return;
+        // What is typed is looked up among the shortcuts too, and would come back here.
+        const QScopedValueRollback typing(m_isTyping, true);
+        for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(kind, key, Qt::ControlModifier);
+            QCoreApplication::sendEvent(window, &event);
+        }
+    };
+    QMetaObject::invokeMethod(this, type, Qt::QueuedConnection);
 }
 
 void Menus::addProgram() {
@@ -113,6 +135,16 @@ void Menus::addEdit() {
               .shortcut = QStringLiteral("Ctrl+Shift+Z"),
               .run = [this] { m_window.edits()->redo(); },
               .isEnabled = [this] { return m_window.edits()->canRedo() && isAllowed(); }});
+    menu.addSeparator();
+    for (const auto& [text, key, shortcut] : {std::tuple(QT_TR_NOOP("Cut"), Qt::Key_X, "Ctrl+X"),
+                                              std::tuple(QT_TR_NOOP("Copy"), Qt::Key_C, "Ctrl+C"),
+                                              std::tuple(QT_TR_NOOP("Paste"), Qt::Key_V, "Ctrl+V"),
+                                              std::tuple(QT_TR_NOOP("Select All"), Qt::Key_A, "Ctrl+A")}) {
+        menu.add({.text = [text = text] { return tr(text); },
+                  .shortcut = QString::fromLatin1(shortcut),
+                  .run = [this, key = key] { typeAfterwards(key); },
+                  .isEnabled = [this] { return isAllowed(); }});
+    }
     menu.addSeparator();
     menu.add({.text = [] { return tr("Find…"); },
               .shortcut = QStringLiteral("Ctrl+F"),

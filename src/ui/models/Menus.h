@@ -63,10 +63,13 @@ private:
     void addWindow();
     void addHelp();
     bool isAllowed() const;
+    /// Types a shortcut, for whoever has the focus once the menu is closed: a field of text, or a list.
+    void typeAfterwards(Qt::Key key);
 
     WindowModel& m_window;
     AppDelegate& m_delegate;
     QList<MenuColumn*> m_columns;
+    bool m_isTyping = false;
 };
 
 } // namespace tavrik
