@@ -6,6 +6,7 @@ namespace tavrik {
 
 namespace {
 
+// Long ones are written in two pieces. NOLINTBEGIN(bugprone-suspicious-missing-comma)
 constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Core", "The Launchpad database is missing."),
     QT_TRANSLATE_NOOP("Core", "The Launchpad database cannot be read: %1."),
@@ -435,6 +436,7 @@ constexpr const char* kLabels[] = {
     QT_TRANSLATE_NOOP("Core", "Sprinkling magic dust..."),
     QT_TRANSLATE_NOOP("Core", "Waving magic wand..."),
 };
+// NOLINTEND(bugprone-suspicious-missing-comma)
 
 /// What speaks of the companion where the window has a place of its own.
 constexpr Reworded kReworded[] = {
