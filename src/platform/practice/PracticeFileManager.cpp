@@ -23,7 +23,7 @@ std::optional<MacPath> existingCompanion(const PosixFileManager& files, const Ma
 
 } // namespace
 
-PracticeFileManager::PracticeFileManager(HostPath root)
+PracticeFileManager::PracticeFileManager(const HostPath& root)
     : PosixFileManager(root),
       m_refusedPaths(root / kRefusedPaths.string().substr(1)) {}
 

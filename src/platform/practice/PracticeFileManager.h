@@ -11,7 +11,7 @@ namespace tavrik::practice {
 /// parts of a move or a replacement leaves the file without its Finder info and custom icon.
 class PracticeFileManager : public PosixFileManager {
 public:
-    explicit PracticeFileManager(HostPath root);
+    explicit PracticeFileManager(const HostPath& root);
 
     Result<std::vector<std::string>> list(const MacPath& folder) const override;
     Status copy(const MacPath& from, const MacPath& to) override;
